@@ -1,0 +1,186 @@
+// CPtrArray and CStringArray: growable arrays.
+#include "afxcoll.h"
+
+#include <utility>
+
+IMPLEMENT_DYNAMIC(CPtrArray, CObject)
+IMPLEMENT_DYNAMIC(CStringArray, CObject)
+
+namespace {
+
+// Growth as the classic arrays do it: an eighth of the size, between 4 and 1024.
+INT_PTR GrowStep(INT_PTR nGrowBy, INT_PTR nSize)
+{
+    if (nGrowBy > 0)
+        return nGrowBy;
+    INT_PTR step = nSize / 8;
+    return step < 4 ? 4 : (step > 1024 ? 1024 : step);
+}
+
+}  // namespace
+
+CPtrArray::~CPtrArray()
+{
+    delete[] m_pData;
+}
+
+void CPtrArray::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
+{
+    if (nGrowBy >= 0)
+        m_nGrowBy = nGrowBy;
+    if (nNewSize <= 0)
+    {
+        delete[] m_pData;
+        m_pData = nullptr;
+        m_nSize = m_nMaxSize = 0;
+        return;
+    }
+    if (nNewSize > m_nMaxSize)
+    {
+        INT_PTR nNewMax = m_nMaxSize + GrowStep(m_nGrowBy, m_nSize);
+        if (nNewMax < nNewSize)
+            nNewMax = nNewSize;
+        void** pNewData = new void*[nNewMax]();
+        for (INT_PTR i = 0; i < m_nSize; ++i)
+            pNewData[i] = m_pData[i];
+        delete[] m_pData;
+        m_pData = pNewData;
+        m_nMaxSize = nNewMax;
+    }
+    for (INT_PTR i = m_nSize; i < nNewSize; ++i)
+        m_pData[i] = nullptr;
+    m_nSize = nNewSize;
+}
+
+void CPtrArray::FreeExtra()
+{
+    if (m_nSize == m_nMaxSize)
+        return;
+    void** pNewData = m_nSize ? new void*[m_nSize] : nullptr;
+    for (INT_PTR i = 0; i < m_nSize; ++i)
+        pNewData[i] = m_pData[i];
+    delete[] m_pData;
+    m_pData = pNewData;
+    m_nMaxSize = m_nSize;
+}
+
+void CPtrArray::SetAtGrow(INT_PTR nIndex, void* newElement)
+{
+    if (nIndex >= m_nSize)
+        SetSize(nIndex + 1);
+    m_pData[nIndex] = newElement;
+}
+
+INT_PTR CPtrArray::Add(void* newElement)
+{
+    INT_PTR nIndex = m_nSize;
+    SetAtGrow(nIndex, newElement);
+    return nIndex;
+}
+
+INT_PTR CPtrArray::Append(const CPtrArray& src)
+{
+    INT_PTR nOldSize = m_nSize;
+    INT_PTR nSrc = src.m_nSize;  // src may be *this
+    SetSize(m_nSize + nSrc);
+    for (INT_PTR i = 0; i < nSrc; ++i)
+        m_pData[nOldSize + i] = src.m_pData[i];
+    return nOldSize;
+}
+
+void CPtrArray::Copy(const CPtrArray& src)
+{
+    if (&src == this)
+        return;
+    SetSize(src.m_nSize);
+    for (INT_PTR i = 0; i < m_nSize; ++i)
+        m_pData[i] = src.m_pData[i];
+}
+
+void CPtrArray::InsertAt(INT_PTR nIndex, void* newElement, INT_PTR nCount)
+{
+    if (nIndex < 0 || nCount <= 0)
+        return;
+    INT_PTR nOldSize = m_nSize;
+    if (nIndex >= m_nSize)
+        SetSize(nIndex + nCount);
+    else
+    {
+        SetSize(m_nSize + nCount);
+        for (INT_PTR i = nOldSize - 1; i >= nIndex; --i)
+            m_pData[i + nCount] = m_pData[i];
+    }
+    for (INT_PTR i = 0; i < nCount; ++i)
+        m_pData[nIndex + i] = newElement;
+}
+
+void CPtrArray::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
+{
+    if (nIndex < 0 || nCount <= 0 || nIndex >= m_nSize)
+        return;
+    if (nCount > m_nSize - nIndex)
+        nCount = m_nSize - nIndex;
+    for (INT_PTR i = nIndex; i + nCount < m_nSize; ++i)
+        m_pData[i] = m_pData[i + nCount];
+    m_nSize -= nCount;
+}
+
+CStringArray::~CStringArray()
+{
+    delete[] m_pData;
+}
+
+void CStringArray::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
+{
+    if (nGrowBy >= 0)
+        m_nGrowBy = nGrowBy;
+    if (nNewSize <= 0)
+    {
+        delete[] m_pData;
+        m_pData = nullptr;
+        m_nSize = m_nMaxSize = 0;
+        return;
+    }
+    if (nNewSize > m_nMaxSize)
+    {
+        INT_PTR nNewMax = m_nMaxSize + GrowStep(m_nGrowBy, m_nSize);
+        if (nNewMax < nNewSize)
+            nNewMax = nNewSize;
+        CString* pNewData = new CString[nNewMax];
+        for (INT_PTR i = 0; i < m_nSize; ++i)
+            pNewData[i] = std::move(m_pData[i]);
+        delete[] m_pData;
+        m_pData = pNewData;
+        m_nMaxSize = nNewMax;
+    }
+    for (INT_PTR i = nNewSize; i < m_nSize; ++i)
+        m_pData[i].Empty();
+    m_nSize = nNewSize;
+}
+
+INT_PTR CStringArray::Add(LPCSTR newElement)
+{
+    INT_PTR nIndex = m_nSize;
+    SetSize(nIndex + 1);
+    m_pData[nIndex] = newElement;
+    return nIndex;
+}
+
+INT_PTR CStringArray::Add(const CString& newElement)
+{
+    INT_PTR nIndex = m_nSize;
+    SetSize(nIndex + 1);
+    m_pData[nIndex] = newElement;
+    return nIndex;
+}
+
+void CStringArray::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
+{
+    if (nIndex < 0 || nCount <= 0 || nIndex >= m_nSize)
+        return;
+    if (nCount > m_nSize - nIndex)
+        nCount = m_nSize - nIndex;
+    for (INT_PTR i = nIndex; i + nCount < m_nSize; ++i)
+        m_pData[i] = m_pData[i + nCount];
+    SetSize(m_nSize - nCount);
+}

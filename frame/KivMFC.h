@@ -1,0 +1,8 @@
+// Every public class of the library, with the runtime headers they need.
+#pragma once
+
+#include <afxwin.h>
+#include <afxcoll.h>
+
+#include "KivMFCEntry.h"
+#include "KivMFCResource.h"

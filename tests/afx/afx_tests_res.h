@@ -1,0 +1,6 @@
+#pragma once
+#define IDS_TEST_HELLO 101
+#define IDS_TEST_UMLAUT 102
+#define IDS_TEST_LAST_IN_BLOCK 111
+#define IDS_TEST_MISSING 105
+#define AFX_IDS_APP_TITLE_TEST 0xE000

@@ -1,0 +1,13 @@
+# The library exports InitKivMFCDLL undecorated and carries its bitmaps and cursors.
+execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE dump RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "objdump failed on ${DLL}")
+endif()
+if(NOT dump MATCHES "\\][ \t]+InitKivMFCDLL\n")
+  message(FATAL_ERROR "InitKivMFCDLL is not exported undecorated")
+endif()
+execute_process(COMMAND ${OBJDUMP} -s -j .rsrc ${DLL} OUTPUT_QUIET RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "no resource section")
+endif()
+message(STATUS "InitKivMFCDLL exported")
