@@ -1,0 +1,17 @@
+# Installs the package, builds a host against it with find_package, and runs the host.
+set(work ${BUILD}/package-test)
+file(REMOVE_RECURSE ${work})
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "failed: ${ARGN}\n${out}\n${err}")
+  endif()
+endfunction()
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${work}/install)
+run(${CMAKE_COMMAND} -S ${HOST_SOURCE} -B ${work}/host -G Ninja
+    -DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -DCMAKE_PREFIX_PATH=${work}/install)
+run(${CMAKE_COMMAND} --build ${work}/host)
+file(GLOB dlls ${work}/install/bin/*.dll)
+file(COPY ${dlls} DESTINATION ${work}/host)
+set(ENV{KIV_WINEPREFIX} ${BUILD}/wineprefix)
+run(${CMAKE_CURRENT_LIST_DIR}/../../cmake/wine-run ${work}/host/outside_host.exe)
