@@ -6,3 +6,9 @@
 
 #include "KivMFCEntry.h"
 #include "KivMFCResource.h"
+#include "strString.h"
+#include "strStringW.h"
+#include "strFilename.h"
+#include "strFilenameW.h"
+#include "mfcCStringMap.h"
+#include "winGetPlatformID.h"

@@ -8,7 +8,8 @@ namespace kiv::rules {
 struct FixedLayout
 {
     bool negative;
-    int integerDigits;  // digits before the point; 0 means a single "0" stands there
+    bool leadingZero;   // a single "0" before the point: the value is below 1
+    int integerDigits;  // digits before the point otherwise, as far as the digit string goes
     int zeros;          // '0' characters between the point and the digits
     int fractionFirst;  // index of the first digit after the point
 };
@@ -19,7 +20,7 @@ struct FixedLayout
 // rounds to nothing. Digit ranges never reach past the digit string.
 inline FixedLayout LayoutFixed(int sign, int decpt, int decimals, int digitsLength) noexcept
 {
-    FixedLayout layout{sign != 0, 0, 0, 0};
+    FixedLayout layout{sign != 0, decpt < 1, 0, 0, 0};
     if (digitsLength < 0)
         digitsLength = 0;
     if (decpt >= 1)

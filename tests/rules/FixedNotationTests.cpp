@@ -15,7 +15,7 @@ std::string Compose(const std::string& digits, int decpt, int sign, int decimals
 {
     FixedLayout l = LayoutFixed(sign, decpt, decimals, static_cast<int>(digits.size()));
     std::string out = l.negative ? "-" : "";
-    out += l.integerDigits > 0 ? digits.substr(0, l.integerDigits) : std::string("0");
+    out += l.leadingZero ? std::string("0") : digits.substr(0, l.integerDigits);
     out += '.';
     out += std::string(l.zeros, '0');
     out += digits.substr(l.fractionFirst);
@@ -56,12 +56,15 @@ TEST(FixedNotation, ValueRoundingToNothingGivesAllZeroDecimals)
 TEST(FixedNotation, ShortDigitStringsAreNeverOverrun)
 {
     FixedLayout l = LayoutFixed(0, 5, -1, 4);
+    EXPECT_FALSE(l.leadingZero);
     EXPECT_EQ(4, l.integerDigits);
     EXPECT_EQ(4, l.fractionFirst);
     l = LayoutFixed(0, INT_MAX, INT_MAX, 0);
     EXPECT_EQ(0, l.integerDigits);
     EXPECT_EQ(0, l.fractionFirst);
+    EXPECT_EQ(".", Compose("", 3, 0, 0));
     l = LayoutFixed(0, INT_MIN, INT_MAX, 0);
+    EXPECT_TRUE(l.leadingZero);
     EXPECT_EQ(INT_MAX, l.zeros);
     l = LayoutFixed(0, INT_MIN, INT_MIN, 3);
     EXPECT_EQ(0, l.zeros);
