@@ -6,3 +6,4 @@
 
 #include "KivMFCEntry.h"
 #include "KivMFCResource.h"
+#include "LocalizationManager.h"
