@@ -6,6 +6,7 @@
 
 #include "KivMFCEntry.h"
 #include "KivMFCResource.h"
+#include "LocalizationManager.h"
 #include "strString.h"
 #include "strStringW.h"
 #include "strFilename.h"
