@@ -1,5 +1,6 @@
 #include "strStringW.h"
 
+#include "LocalizationManager.h"
 #include "strNumberText.h"
 
 #include <stdlib.h>
@@ -22,6 +23,27 @@ strStringW::strStringW(const strStringW& src) : CStringW(src) {}
 strStringW::strStringW(const CStringW& src) : CStringW(src) {}
 
 strStringW::strStringW(const unsigned short* psz) : CStringW(Units(psz)) {}
+
+// A translation that exists wins even over an empty resource string; without one the
+// resource text is widened in the ANSI code page.
+strStringW::strStringW(unsigned int nID) : CStringW(L"")
+{
+    CString text;
+    text.LoadString(nID);
+    LocalizationManager* manager = LocalizationManager::Get();
+    if (!manager->IsTranslationMode())
+    {
+        Format(L"%s", CStringW(text).GetString());
+        return;
+    }
+    CString key;
+    key.Format("%d", nID);
+    CStringW translation = manager->GetWideTranslation(text, key, "STRINGTABLE");
+    if (translation != L"")
+        Format(L"%s", translation.GetString());
+    else
+        Format(L"%s", CStringW(text).GetString());
+}
 
 strStringW& strStringW::operator=(const strStringW& src)
 {

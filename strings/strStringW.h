@@ -12,6 +12,9 @@ public:
     strStringW(const strStringW& src);
     strStringW(const CStringW& src);
     strStringW(const unsigned short* psz);
+    // The resource string nID, translated through the LocalizationManager in translation
+    // mode (section "STRINGTABLE", key nID in decimal); unlike strString(unsigned int).
+    strStringW(unsigned int nID);
 
     strStringW& operator=(const strStringW& src);
     strStringW& operator=(const CStringW& src);
