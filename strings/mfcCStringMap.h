@@ -20,8 +20,8 @@ public:
     // Construction: an empty map, filled from the resource when one is named; the result
     // of that load is not kept.
     mfcCStringMap();
-    explicit mfcCStringMap(unsigned int nID);
-    explicit mfcCStringMap(const char* lpszName);
+    mfcCStringMap(unsigned int nID);
+    mfcCStringMap(const char* lpszName);
     ~mfcCStringMap() override;
 
     // Attributes

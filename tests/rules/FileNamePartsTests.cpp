@@ -120,14 +120,17 @@ TEST(FileNameParts, SeparatorOnlyAfterANonEmptyTextNotEndingInBackslash)
     EXPECT_TRUE(NeedsSeparator(u"C:", 2));
 }
 
-TEST(FileNameParts, HighCharactersAreOrdinary)
+TEST(FileNameParts, OnlyTheExactUnitsCarryMeaning)
 {
-    // 0xDC and U+015C share their low byte with nothing that carries meaning.
+    // Wide units whose low byte is '\', '.' or ':' are ordinary characters.
+    std::u16string wide = u"a\u015Cb\\c\u012Ed.x\u013A";
+    FilePart path = PathPart(wide.c_str(), static_cast<int>(wide.size()));
+    EXPECT_EQ(4, path.count);
+    FilePart ext = ExtPart(wide.c_str(), static_cast<int>(wide.size()));
+    EXPECT_EQ(8, ext.first);
+    EXPECT_FALSE(HasDriveColon(wide.c_str(), static_cast<int>(wide.size())));
+    // High narrow bytes are negative chars and never match.
     std::string narrow = "\xdc\\\xe4.x";
-    EXPECT_EQ(1, PathPart(narrow.c_str(), 5).count - 1);
-    std::u16string wide = u"\u015C\\\u012E.x";
-    FilePart ext = ExtPart(wide.c_str(), 5);
-    EXPECT_TRUE(ext.present);
-    EXPECT_EQ(4, ext.first);
-    EXPECT_FALSE(HasDriveColon(u"\u013A\u023A", 2));
+    EXPECT_EQ(2, PathPart(narrow.c_str(), 5).count);
+    EXPECT_EQ(4, ExtPart(narrow.c_str(), 5).first);
 }

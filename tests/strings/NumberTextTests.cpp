@@ -80,7 +80,10 @@ void __cdecl RecordInvalidParameter(const wchar_t*, const wchar_t*, const wchar_
 class InvalidParameterHandler
 {
 public:
-    InvalidParameterHandler() : m_old(_set_invalid_parameter_handler(RecordInvalidParameter)) { g_handlerCalled = false; }
+    InvalidParameterHandler() : m_old(_set_invalid_parameter_handler(RecordInvalidParameter))
+    {
+        g_handlerCalled = false;
+    }
     ~InvalidParameterHandler() { _set_invalid_parameter_handler(m_old); }
 
 private:
