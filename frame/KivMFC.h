@@ -6,3 +6,10 @@
 
 #include "KivMFCEntry.h"
 #include "KivMFCResource.h"
+#include "LocalizationManager.h"
+#include "strString.h"
+#include "strStringW.h"
+#include "strFilename.h"
+#include "strFilenameW.h"
+#include "mfcCStringMap.h"
+#include "winGetPlatformID.h"

@@ -1,0 +1,232 @@
+// LocalizationManager: the singleton, the translation cache and the lookups.
+#include "LocalizationManager.h"
+
+#include "LocalizationKeys.h"
+
+#include <iterator>
+
+using kiv::localization::KeyText;
+
+namespace {
+
+// Nodes of every cache map are allocated ten at a time.
+constexpr INT_PTR kBlockSize = 10;
+// Bucket counts: the section map starts large enough for every dialog of a product; a key
+// map starts at the runtime's default and moves up this list as it fills.
+constexpr UINT kSectionTableSize = 257;
+constexpr UINT kKeyTableSizes[] = {17, 67, 257, 1031, 4099, 16411, 65537, 262147, 1048583};
+
+// The runtime's maps never rehash, so a key map with more than two keys a bucket is moved
+// into a larger one; a lookup then stays a walk of a short chain.
+CMapStringToPtr* GrowIfCrowded(CMapStringToPtr* keys)
+{
+    UINT size = keys->GetHashTableSize();
+    if (keys->GetCount() <= 2 * (INT_PTR)size || size >= kKeyTableSizes[std::size(kKeyTableSizes) - 1])
+        return keys;
+    UINT bigger = size;
+    for (UINT candidate : kKeyTableSizes)
+        if (candidate > size)
+        {
+            bigger = candidate;
+            break;
+        }
+    auto* grown = new CMapStringToPtr(kBlockSize);
+    grown->InitHashTable(bigger);
+    CString key;
+    void* value = nullptr;
+    for (POSITION pos = keys->GetStartPosition(); pos != nullptr;)
+    {
+        keys->GetNextAssoc(pos, key, value);
+        grown->SetAt(key, value);
+    }
+    delete keys;
+    return grown;
+}
+
+}  // namespace
+
+LocalizationManager* LocalizationManager::m_SingletonInstance = nullptr;
+
+LocalizationManager* LocalizationManager::Get()
+{
+    if (m_SingletonInstance == nullptr)
+        m_SingletonInstance = new LocalizationManager;
+    return m_SingletonInstance;
+}
+
+void LocalizationManager::Dispose()
+{
+    // Dispose before any Get() has no instance to save; it answers without touching anything.
+    if (m_SingletonInstance == nullptr)
+        return;
+    m_SingletonInstance->SaveTranslations();
+    delete m_SingletonInstance;
+    // m_SingletonInstance keeps the freed address on purpose: Dispose is the host's last call.
+}
+
+LocalizationManager::LocalizationManager() : m_pTranslationCache(new CMapStringToPtr(kBlockSize))
+{
+    m_pTranslationCache->InitHashTable(kSectionTableSize);
+    LoadTranslations();
+}
+
+LocalizationManager::~LocalizationManager()
+{
+    if (m_pTranslationCache != nullptr)
+    {
+        ClearTranslationCache();
+        delete m_pTranslationCache;
+    }
+}
+
+LocalizationManager& LocalizationManager::operator=(const LocalizationManager& other)
+{
+    m_pTranslationCache = other.m_pTranslationCache;
+    return *this;
+}
+
+void LocalizationManager::SaveTranslations()
+{
+    if (m_pTranslationCache == nullptr)
+        return;
+    StoreTranslations();
+    ClearTranslationCache();
+    delete m_pTranslationCache;
+    m_pTranslationCache = nullptr;
+}
+
+void LocalizationManager::ClearTranslationCache()
+{
+    CString section, key;
+    void* keys = nullptr;
+    void* entry = nullptr;
+    for (POSITION pos = m_pTranslationCache->GetStartPosition(); pos != nullptr;)
+    {
+        m_pTranslationCache->GetNextAssoc(pos, section, keys);
+        auto* keyMap = static_cast<CMapStringToPtr*>(keys);
+        for (POSITION pos2 = keyMap->GetStartPosition(); pos2 != nullptr;)
+        {
+            keyMap->GetNextAssoc(pos2, key, entry);
+            delete static_cast<TranslationEntry*>(entry);
+        }
+        delete keyMap;
+    }
+    m_pTranslationCache->RemoveAll();
+}
+
+TranslationEntry* LocalizationManager::FindTrimmedEntry(LPCSTR key, LPCSTR section)
+{
+    void* keys = nullptr;
+    void* entry = nullptr;
+    if (m_pTranslationCache == nullptr || !m_pTranslationCache->Lookup(section, keys)
+        || !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
+        return nullptr;
+    auto* found = static_cast<TranslationEntry*>(entry);
+    found->translatedText.Trim();  // the trimmed text stays in the cache
+    return found;
+}
+
+BOOL LocalizationManager::HasTranslation(const CString& key, const CString& section)
+{
+    TranslationEntry* entry = FindTrimmedEntry(key, section);
+    return entry != nullptr && !entry->translatedText.IsEmpty();
+}
+
+CStringW LocalizationManager::LookupTranslation(const CString& key, const CString& section)
+{
+    TranslationEntry* entry = FindTrimmedEntry(key, section);
+    if (entry == nullptr)
+        return CStringW();
+    if (!entry->translatedText.IsEmpty())
+        return entry->translatedText;
+    return CStringW(entry->defaultText);
+}
+
+void LocalizationManager::CacheTranslation(const CString& defaultText, const CStringW& translatedText,
+                                           const CString& key, const CString& section)
+{
+    if (m_pTranslationCache == nullptr)
+        return;
+    void* keys = nullptr;
+    if (!m_pTranslationCache->Lookup(section, keys))
+    {
+        keys = new CMapStringToPtr(kBlockSize);
+        m_pTranslationCache->SetAt(section, keys);
+    }
+    auto* keyMap = static_cast<CMapStringToPtr*>(keys);
+    auto* entry = new TranslationEntry;
+    entry->defaultText = defaultText;
+    entry->translatedText = translatedText;
+    // An entry already under the key is overwritten, not freed; that loss is accepted.
+    keyMap->SetAt(key, entry);
+    CMapStringToPtr* grown = GrowIfCrowded(keyMap);
+    if (grown != keyMap)
+        m_pTranslationCache->SetAt(section, grown);
+}
+
+CString LocalizationManager::GetTranslation(CString defaultText, CString key, CString section)
+{
+    if (!HasTranslation(key, section))
+    {
+        CacheTranslation(defaultText, CStringW(), key, section);
+        return defaultText;
+    }
+    BSTR wide = LookupTranslation(key, section).AllocSysString();
+    int length = (int)::SysStringLen(wide);
+    const DWORD flags = WC_COMPOSITECHECK | WC_DISCARDNS;
+    int size = ::WideCharToMultiByte(CP_ACP, flags, wide, length, nullptr, 0, nullptr, nullptr);
+    CString result = defaultText;
+    if (size > 0)
+    {
+        char* narrow = new char[size + 1];
+        ::WideCharToMultiByte(CP_ACP, flags, wide, length, narrow, size, nullptr, nullptr);
+        narrow[size] = '\0';
+        result.Format("%s", narrow);
+        delete[] narrow;
+    }
+    ::SysFreeString(wide);
+    return result;
+}
+
+CString LocalizationManager::GetTranslation(CString defaultText, int key, int section)
+{
+    CString keyText = KeyText(key);
+    return GetTranslation(defaultText, keyText, KeyText(section));
+}
+
+CStringW LocalizationManager::GetWideTranslation(CString defaultText, CString key, CString section)
+{
+    // One walk of the two maps answers both whether a translation exists and what it is.
+    TranslationEntry* entry = FindTrimmedEntry(key, section);
+    if (entry != nullptr && !entry->translatedText.IsEmpty())
+        return entry->translatedText;
+    if (defaultText.IsEmpty())
+        return CStringW();  // an empty default is never recorded by this overload
+    CacheTranslation(defaultText, CStringW(), key, section);
+    return CStringW(defaultText);
+}
+
+CStringW LocalizationManager::GetWideTranslation(CString defaultText, int key, int section)
+{
+    CString keyText = KeyText(key);
+    return GetWideTranslation(defaultText, keyText, KeyText(section));
+}
+
+BSTR LocalizationManager::GetBSTRTranlation(CString defaultText, CString key, CString section)
+{
+    if (HasTranslation(key, section))
+        return LookupTranslation(key, section).AllocSysString();
+    CacheTranslation(defaultText, CStringW(), key, section);
+    return defaultText.AllocSysString();
+}
+
+BSTR LocalizationManager::GetBSTRTranlation(CString defaultText, int key, int section)
+{
+    CString keyText = KeyText(key);
+    return GetBSTRTranlation(defaultText, keyText, KeyText(section));
+}
+
+void LocalizationManager::SetTranslation(CString defaultText, CStringW translatedText, CString key, CString section)
+{
+    CacheTranslation(defaultText, translatedText, key, section);
+}

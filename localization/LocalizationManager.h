@@ -1,0 +1,72 @@
+// LocalizationManager: the library's single point of translation. Texts are named by a
+// section, a key and the caller's default text; answers come from a two-level cache that
+// is filled from the language-string store (kivstore64.dll) and written back on Dispose.
+#pragma once
+
+#include <afxwin.h>
+#include <afxcoll.h>
+
+// One cached text: the program's own text and its translation (empty when none is known).
+struct TranslationEntry
+{
+    CString defaultText;
+    CStringW translatedText;
+};
+
+class AFX_EXT_CLASS LocalizationManager
+{
+public:
+    // Attributes
+    // The one instance; null until the first Get(). Dispose leaves it as it was.
+    static LocalizationManager* m_SingletonInstance;
+
+    // Operations
+    static LocalizationManager* Get();
+    static void Dispose();
+
+    CString GetTranslation(CString defaultText, CString key, CString section);
+    CString GetTranslation(CString defaultText, int key, int section);
+    CStringW GetWideTranslation(CString defaultText, CString key, CString section);
+    CStringW GetWideTranslation(CString defaultText, int key, int section);
+    // The result belongs to the caller (SysFreeString). The name is the exported one.
+    BSTR GetBSTRTranlation(CString defaultText, CString key, CString section);
+    BSTR GetBSTRTranlation(CString defaultText, int key, int section);
+    void SetTranslation(CString defaultText, CStringW translatedText, CString key, CString section);
+    // 1 while the setting Environment/LanguageSetting is non-empty, read anew on each call.
+    int IsTranslationMode();
+
+    // Message boxes under the section "STRINGTABLE", with no owner; the answer is dropped.
+    void ShowMessageBox(int id);
+    void ShowMessageBox(int id, unsigned int type);
+    void ShowMessageBox(CString text, CString key, CStringW caption, unsigned int type);
+    void ShowMessageBox(CString text, CString key, CString caption, unsigned int type);
+    void ShowMessageBox(CString text, CString key, unsigned int type);
+    void ShowMessageBox(CString text, int key, CString caption, unsigned int type);
+    void ShowMessageBox(CString text, int key, unsigned int type);
+    void ShowMessageBox(CString text, int key, CStringW caption, unsigned int type);
+
+    // Shallow: both managers then share one cache.
+    LocalizationManager& operator=(const LocalizationManager& other);
+
+protected:
+    LocalizationManager();
+    ~LocalizationManager();
+
+    // Writes the cache to the store, then destroys the cache.
+    void SaveTranslations();
+
+    // Section name -> (key name -> TranslationEntry*); null once saved.
+    CMapStringToPtr* m_pTranslationCache;
+
+private:
+    BOOL HasTranslation(const CString& key, const CString& section);
+    CStringW LookupTranslation(const CString& key, const CString& section);
+    void CacheTranslation(const CString& defaultText, const CStringW& translatedText, const CString& key,
+                          const CString& section);
+    void ClearTranslationCache();
+    void LoadTranslations();
+    void StoreTranslations();
+
+    // The cached entry of (section, key) with its translation trimmed in place, or null.
+    TranslationEntry* FindTrimmedEntry(LPCSTR key, LPCSTR section);
+};
