@@ -1,0 +1,555 @@
+#include "PoFile.h"
+
+#include "Utf8.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace kiv::rules
+{
+
+namespace
+{
+
+constexpr char kContextSeparator = '\x04';
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsSpace(char c) noexcept
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\f' || c == '\v';
+}
+
+bool IsFlagLine(std::string_view line) noexcept
+{
+    return line.size() >= 2 && line[0] == '#' && line[1] == ',';
+}
+
+bool HasFlag(std::string_view line, std::string_view flag) noexcept
+{
+    line.remove_prefix(2);
+    while (!line.empty())
+    {
+        std::size_t comma = line.find(',');
+        std::string_view item = line.substr(0, comma);
+        while (!item.empty() && IsSpace(item.front()))
+            item.remove_prefix(1);
+        while (!item.empty() && IsSpace(item.back()))
+            item.remove_suffix(1);
+        if (item == flag)
+            return true;
+        if (comma == std::string_view::npos)
+            break;
+        line.remove_prefix(comma + 1);
+    }
+    return false;
+}
+
+// Reads entries token by token as gettext does, keeping for each where its bytes stood.
+class PoReader
+{
+public:
+    PoReader(std::string_view text, PoFile* file) : m_text(text), m_file(file) {}
+
+    bool ReadFile();
+    bool ReadHeader(std::string& header);
+    const PoError& Error() const noexcept { return m_error; }
+
+private:
+    bool AtEnd() const noexcept { return m_pos >= m_text.size(); }
+    bool Fail(const char* message)
+    {
+        m_error.line = m_line;
+        m_error.message = message;
+        return false;
+    }
+    void SkipSpaces() noexcept
+    {
+        while (!AtEnd() && IsSpace(m_text[m_pos]))
+            ++m_pos;
+    }
+    void SkipBlank() noexcept;
+    bool SkipToEntry(std::vector<std::string>& comments);
+    bool ReadEntry(PoEntry& entry);
+    std::string_view ReadKeyword();
+    bool ReadStrings(std::string& value);
+    bool ReadString(std::string& value, bool& escaped);
+    bool ReadEscape(std::string& value);
+    bool EndEntryLine();
+
+    std::string_view m_text;
+    PoFile* m_file;
+    std::size_t m_pos = 0;
+    int m_line = 1;
+    bool m_checkFields = false; // strings are checked one by one when the whole text was not
+    PoError m_error;
+};
+
+void PoReader::SkipBlank() noexcept
+{
+    for (; !AtEnd(); ++m_pos)
+    {
+        char c = m_text[m_pos];
+        if (c == '\n')
+            ++m_line;
+        else if (!IsSpace(c))
+            return;
+    }
+}
+
+// Blank lines and comment lines up to the next entry; false at the end of the text.
+bool PoReader::SkipToEntry(std::vector<std::string>& comments)
+{
+    for (;;)
+    {
+        SkipSpaces();
+        if (AtEnd())
+            return false;
+        if (m_text[m_pos] == '\n')
+        {
+            ++m_pos;
+            ++m_line;
+            continue;
+        }
+        if (m_text[m_pos] != '#')
+            return true;
+        std::size_t end = m_text.find('\n', m_pos);
+        std::size_t stop = end == std::string_view::npos ? m_text.size() : end;
+        std::size_t last = stop;
+        while (last > m_pos && IsSpace(m_text[last - 1]))
+            --last;
+        comments.emplace_back(m_text.substr(m_pos, last - m_pos));
+        m_pos = stop;
+    }
+}
+
+bool PoReader::ReadFile()
+{
+    std::size_t entryBegin = 0;
+    for (;;)
+    {
+        PoEntry entry;
+        if (!SkipToEntry(entry.comments))
+        {
+            m_file->trailerBegin = entryBegin;
+            return true;
+        }
+        entry.textBegin = entryBegin;
+        if (!ReadEntry(entry))
+            return false;
+        entry.textEnd = entryBegin = m_pos;
+        m_file->entries.push_back(std::move(entry));
+    }
+}
+
+bool PoReader::ReadHeader(std::string& header)
+{
+    m_checkFields = true;
+    PoEntry entry;
+    if (!SkipToEntry(entry.comments) || !ReadEntry(entry) || !entry.IsHeader())
+        return false;
+    header = std::move(entry.msgstr);
+    return true;
+}
+
+std::string_view PoReader::ReadKeyword()
+{
+    SkipBlank();
+    std::size_t start = m_pos;
+    while (!AtEnd() && ((m_text[m_pos] >= 'a' && m_text[m_pos] <= 'z') || m_text[m_pos] == '_'))
+        ++m_pos;
+    if (!AtEnd() && m_text[m_pos] == '[' && m_pos > start)
+    {
+        std::size_t close = m_pos + 1;
+        while (close < m_text.size() && m_text[close] >= '0' && m_text[close] <= '9' && close - m_pos < 6)
+            ++close;
+        if (close > m_pos + 1 && close < m_text.size() && m_text[close] == ']')
+            m_pos = close + 1;
+    }
+    return m_text.substr(start, m_pos - start);
+}
+
+bool PoReader::ReadEntry(PoEntry& entry)
+{
+    std::string_view keyword = ReadKeyword();
+    if (keyword == "msgctxt")
+    {
+        entry.hasContext = true;
+        if (!ReadStrings(entry.context))
+            return false;
+        keyword = ReadKeyword();
+    }
+    if (keyword != "msgid")
+        return Fail(AtEnd() || m_text[m_pos] != '#' ? "msgid expected" : "comment inside an entry");
+    if (!ReadStrings(entry.msgid))
+        return false;
+    keyword = ReadKeyword();
+    if (keyword == "msgstr")
+        return ReadStrings(entry.msgstr) && EndEntryLine();
+    if (keyword != "msgid_plural")
+        return Fail(AtEnd() || m_text[m_pos] != '#' ? "msgstr expected" : "comment inside an entry");
+    entry.hasPlural = true;
+    if (!ReadStrings(entry.msgidPlural))
+        return false;
+    for (;;)
+    {
+        std::size_t pos = m_pos;
+        int line = m_line;
+        std::string expected = "msgstr[" + std::to_string(entry.plurals.size()) + "]";
+        if (ReadKeyword() != expected)
+        {
+            if (entry.plurals.empty())
+                return Fail("msgstr[0] expected");
+            m_pos = pos;
+            m_line = line;
+            break;
+        }
+        entry.plurals.emplace_back();
+        if (!ReadStrings(entry.plurals.back()))
+            return false;
+    }
+    return EndEntryLine();
+}
+
+// One or more strings in a row, joined; the position stays after the last one.
+bool PoReader::ReadStrings(std::string& value)
+{
+    SkipBlank();
+    if (AtEnd() || m_text[m_pos] != '"')
+        return Fail("string expected");
+    bool escaped = false;
+    for (;;)
+    {
+        if (!ReadString(value, escaped))
+            return false;
+        std::size_t pos = m_pos;
+        int line = m_line;
+        SkipBlank();
+        if (AtEnd() || m_text[m_pos] != '"')
+        {
+            m_pos = pos;
+            m_line = line;
+            break;
+        }
+    }
+    // The raw text was checked as a whole; bytes made by escapes and strings read on their own were not.
+    if ((escaped || m_checkFields) && !IsValidUtf8(value))
+        return Fail("string is not UTF-8");
+    if (m_checkFields && value.find_first_of(std::string_view("\0\x04", 2)) != std::string::npos)
+        return Fail("NUL or context separator in a string");
+    return true;
+}
+
+bool PoReader::ReadString(std::string& value, bool& escaped)
+{
+    ++m_pos; // the opening quote
+    for (;;)
+    {
+        std::size_t start = m_pos;
+        while (!AtEnd() && m_text[m_pos] != '"' && m_text[m_pos] != '\\' && m_text[m_pos] != '\n')
+            ++m_pos;
+        value.append(m_text.data() + start, m_pos - start);
+        if (AtEnd() || m_text[m_pos] == '\n')
+            return Fail("line end inside a string");
+        if (m_text[m_pos] == '"')
+        {
+            ++m_pos;
+            return true;
+        }
+        escaped = true;
+        if (!ReadEscape(value))
+            return false;
+    }
+}
+
+bool PoReader::ReadEscape(std::string& value)
+{
+    ++m_pos; // the backslash
+    if (AtEnd())
+        return Fail("line end inside a string");
+    char c = m_text[m_pos++];
+    static const char kNamed[] = "n\nt\tr\ra\ab\bf\fv\v\\\\\"\"?\?''";
+    for (const char* p = kNamed; *p; p += 2)
+        if (c == p[0])
+        {
+            value += p[1];
+            return true;
+        }
+    unsigned int code = 0;
+    if (c >= '0' && c <= '7')
+    {
+        code = static_cast<unsigned int>(c - '0');
+        for (int i = 0; i < 2 && !AtEnd() && m_text[m_pos] >= '0' && m_text[m_pos] <= '7'; ++i)
+            code = code * 8 + static_cast<unsigned int>(m_text[m_pos++] - '0');
+    }
+    else if (c == 'x' && !AtEnd() && std::isxdigit(static_cast<unsigned char>(m_text[m_pos])))
+    {
+        for (; !AtEnd() && std::isxdigit(static_cast<unsigned char>(m_text[m_pos])) && code <= 0xFF; ++m_pos)
+        {
+            char d = m_text[m_pos];
+            code = code * 16 + static_cast<unsigned int>(d <= '9' ? d - '0' : (d | 0x20) - 'a' + 10);
+        }
+    }
+    else
+        return Fail("unknown escape sequence");
+    if (code == 0 || code > 0xFF || code == static_cast<unsigned char>(kContextSeparator))
+        return Fail("escape gives NUL, the context separator or more than a byte");
+    value += static_cast<char>(code);
+    return true;
+}
+
+// An entry ends with its line: nothing but white space may follow its last string.
+bool PoReader::EndEntryLine()
+{
+    SkipSpaces();
+    if (AtEnd())
+        return true;
+    if (m_text[m_pos] != '\n')
+        return Fail("text after the end of an entry");
+    ++m_pos;
+    ++m_line;
+    return true;
+}
+
+std::string_view WithoutByteOrderMark(std::string_view bytes) noexcept
+{
+    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark)
+        bytes.remove_prefix(kByteOrderMark.size());
+    return bytes;
+}
+
+bool IsCleanText(std::string_view text) noexcept
+{
+    return IsValidUtf8(text) && text.find_first_of(std::string_view("\0\x04", 2)) == std::string_view::npos;
+}
+
+int FirstUncleanLine(std::string_view text)
+{
+    int line = 1;
+    for (std::size_t start = 0;; ++line)
+    {
+        std::size_t end = text.find('\n', start);
+        if (!IsCleanText(text.substr(start, end == std::string_view::npos ? end : end - start)) ||
+            end == std::string_view::npos)
+            return line;
+        start = end + 1;
+    }
+}
+
+bool EndsWithBlankLine(const std::string& out) noexcept
+{
+    std::size_t n = out.size();
+    if (n < 2 || out[n - 1] != '\n')
+        return n == 0;
+    return out[n - 2] == '\n' || (n >= 3 && out[n - 2] == '\r' && out[n - 3] == '\n');
+}
+
+// Texts with inner line feeds are written one line per string, as translators' tools do; a
+// context names an entry and stays on one line.
+void AppendField(std::string& out, std::string_view keyword, std::string_view value, const std::string& nl,
+                 bool oneLine = false)
+{
+    out += keyword;
+    out += ' ';
+    std::size_t firstBreak = value.find('\n');
+    if (oneLine || firstBreak == std::string_view::npos || firstBreak + 1 == value.size())
+    {
+        AppendQuoted(out, value);
+        out += nl;
+        return;
+    }
+    out += "\"\"";
+    out += nl;
+    for (std::size_t start = 0; start < value.size();)
+    {
+        std::size_t end = value.find('\n', start);
+        end = end == std::string_view::npos ? value.size() : end + 1;
+        AppendQuoted(out, value.substr(start, end - start));
+        out += nl;
+        start = end;
+    }
+}
+
+void AppendEntry(std::string& out, const PoEntry& entry, const std::string& nl)
+{
+    for (const std::string& comment : entry.comments)
+    {
+        out += comment;
+        out += nl;
+    }
+    if (entry.hasContext)
+        AppendField(out, "msgctxt", entry.context, nl, true);
+    AppendField(out, "msgid", entry.msgid, nl);
+    if (!entry.hasPlural)
+    {
+        AppendField(out, "msgstr", entry.msgstr, nl);
+        return;
+    }
+    AppendField(out, "msgid_plural", entry.msgidPlural, nl);
+    for (std::size_t i = 0; i < entry.plurals.size(); ++i)
+        AppendField(out, "msgstr[" + std::to_string(i) + "]", entry.plurals[i], nl);
+}
+
+} // namespace
+
+bool PoEntry::IsFuzzy() const noexcept
+{
+    for (const std::string& line : comments)
+        if (IsFlagLine(line) && HasFlag(line, "fuzzy"))
+            return true;
+    return false;
+}
+
+void PoEntry::SetFuzzy()
+{
+    if (IsFuzzy())
+        return;
+    MarkChanged();
+    for (std::string& line : comments)
+        if (IsFlagLine(line))
+        {
+            line += ", fuzzy";
+            return;
+        }
+    // Flags go before the "#|" lines, which must stand right above the entry.
+    std::size_t at = comments.size();
+    while (at > 0 && comments[at - 1].compare(0, 2, "#|") == 0)
+        --at;
+    comments.insert(comments.begin() + static_cast<std::ptrdiff_t>(at), "#, fuzzy");
+}
+
+bool PoEntry::operator==(const PoEntry& other) const
+{
+    return comments == other.comments && hasContext == other.hasContext && context == other.context &&
+           msgid == other.msgid && hasPlural == other.hasPlural && msgidPlural == other.msgidPlural &&
+           plurals == other.plurals && msgstr == other.msgstr;
+}
+
+const PoEntry* PoFile::Header() const noexcept
+{
+    for (const PoEntry& entry : entries)
+        if (entry.IsHeader())
+            return &entry;
+    return nullptr;
+}
+
+bool PoFile::operator==(const PoFile& other) const
+{
+    return entries == other.entries && Trailer() == other.Trailer();
+}
+
+bool ParsePo(std::string_view bytes, PoFile& file, PoError* error)
+{
+    file = PoFile();
+    std::string_view text = WithoutByteOrderMark(bytes);
+    if (!IsCleanText(text))
+    {
+        if (error)
+        {
+            error->line = FirstUncleanLine(text);
+            error->message = "not UTF-8, or a NUL or context separator in the file";
+        }
+        return false;
+    }
+    file.text.assign(text);
+    std::size_t firstBreak = text.find('\n');
+    if (firstBreak != std::string_view::npos && firstBreak > 0 && text[firstBreak - 1] == '\r')
+        file.newline = "\r\n";
+    PoReader reader(file.text, &file);
+    if (reader.ReadFile())
+        return true;
+    if (error)
+        *error = reader.Error();
+    file = PoFile();
+    return false;
+}
+
+bool ParsePoHeader(std::string_view bytes, std::string& header)
+{
+    PoReader reader(WithoutByteOrderMark(bytes), nullptr);
+    return reader.ReadHeader(header);
+}
+
+std::string WritePo(const PoFile& file)
+{
+    const std::string& nl = file.newline;
+    std::string out;
+    out.reserve(file.text.size() + 4096);
+    bool afterWritten = false; // the last entry was written from its fields
+    for (const PoEntry& entry : file.entries)
+    {
+        bool changed = entry.IsChanged();
+        if (!out.empty() && out.back() != '\n')
+            out += nl;
+        std::string_view text =
+            changed ? std::string_view()
+                    : std::string_view(file.text).substr(entry.textBegin, entry.textEnd - entry.textBegin);
+        // A blank line between entries, unless the entry's own bytes bring one.
+        bool bringsBlank =
+            !changed && (text.front() == '\n' || (text.front() == '\r' && text.size() > 1 && text[1] == '\n'));
+        if (!out.empty() && (changed || afterWritten) && !bringsBlank && !EndsWithBlankLine(out))
+            out += nl;
+        if (changed)
+            AppendEntry(out, entry, nl);
+        else
+            out += text;
+        afterWritten = changed;
+    }
+    std::string_view trailer = file.Trailer();
+    if (!trailer.empty() && !out.empty() && out.back() != '\n')
+        out += nl;
+    out += trailer;
+    return out;
+}
+
+void AppendQuoted(std::string& out, std::string_view text)
+{
+    out += '"';
+    for (char c : text)
+    {
+        switch (c)
+        {
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        case '\t':
+            out += "\\t";
+            break;
+        case '\r':
+            out += "\\r";
+            break;
+        case '\a':
+            out += "\\a";
+            break;
+        case '\b':
+            out += "\\b";
+            break;
+        case '\f':
+            out += "\\f";
+            break;
+        case '\v':
+            out += "\\v";
+            break;
+        default:
+            if (static_cast<unsigned char>(c) < 0x20)
+            {
+                // Three octal digits, so a digit that follows is never taken into the escape.
+                unsigned char u = static_cast<unsigned char>(c);
+                out += '\\';
+                out += static_cast<char>('0' + (u >> 6));
+                out += static_cast<char>('0' + ((u >> 3) & 7));
+                out += static_cast<char>('0' + (u & 7));
+            }
+            else
+                out += c;
+        }
+    }
+    out += '"';
+}
+
+} // namespace kiv::rules
