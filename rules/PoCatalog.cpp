@@ -157,9 +157,14 @@ const PoEntry* PoCatalog::Find(std::string_view context) const
 
 std::vector<std::string> PoCatalog::LanguageNames() const
 {
-    std::vector<std::string> names;
     const PoEntry* header = m_file.Header();
-    std::string_view list = header ? FindHeaderField(header->msgstr, "X-Language-Names").value : std::string_view();
+    return header ? HeaderLanguageNames(header->msgstr) : std::vector<std::string>();
+}
+
+std::vector<std::string> HeaderLanguageNames(std::string_view header)
+{
+    std::vector<std::string> names;
+    std::string_view list = FindHeaderField(header, "X-Language-Names").value;
     while (!list.empty())
     {
         std::size_t comma = list.find(',');

@@ -48,6 +48,8 @@ struct PoRecord
 // The context of a store entry; false when the pair cannot be told apart from another one
 // (a section with a line feed) or holds what a PO file cannot (NUL, the context separator).
 bool MakeContext(std::string_view section, std::string_view key, std::string& context);
+// The names in the field "X-Language-Names" of a header's text, comma-separated, trimmed.
+std::vector<std::string> HeaderLanguageNames(std::string_view header);
 // True for text a PO file can hold: UTF-8 without NUL and without the context separator.
 bool IsStorableText(std::string_view text) noexcept;
 
@@ -66,7 +68,7 @@ public:
     const PoFile& File() const noexcept { return m_file; }
     // The entry of a context, without plural forms; the first one when a file repeats a context.
     const PoEntry* Find(std::string_view context) const;
-    // Names of the language listed in the header field "X-Language-Names", comma-separated.
+    // The header's names of the language.
     std::vector<std::string> LanguageNames() const;
     std::vector<PoRecord> Records() const;
     bool IsChanged() const noexcept { return m_changed; }
