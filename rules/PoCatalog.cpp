@@ -3,6 +3,7 @@
 #include "Utf8.h"
 
 #include <algorithm>
+#include <functional>
 #include <unordered_set>
 
 namespace kiv::rules
@@ -149,10 +150,10 @@ bool MakeContext(std::string_view section, std::string_view key, std::string& co
 
 const PoEntry* PoCatalog::Find(std::string_view context) const
 {
-    auto it = m_index.find(std::string(context));
-    if (it == m_index.end() || m_file.entries[it->second].hasPlural)
+    std::size_t at = Lookup(context);
+    if (at == kNone || m_file.entries[at].hasPlural)
         return nullptr;
-    return &m_file.entries[it->second];
+    return &m_file.entries[at];
 }
 
 std::vector<std::string> PoCatalog::LanguageNames() const
@@ -184,21 +185,21 @@ std::vector<PoRecord> PoCatalog::Records() const
     {
         const PoEntry& entry = m_file.entries[i];
         std::size_t lineFeed = entry.context.find('\n');
-        if (!entry.hasContext || entry.hasPlural || lineFeed == std::string::npos)
+        if (!entry.hasContext || entry.hasPlural || lineFeed == std::string_view::npos)
             continue;
         // A context repeated by hand counts once, as Find sees it.
-        if (m_sharedContexts && m_index.at(entry.context) != i)
+        if (m_sharedContexts && Lookup(entry.context) != i)
             continue;
-        std::string_view context = entry.context;
-        records.push_back({entry.msgid, entry.msgstr, context.substr(lineFeed + 1), context.substr(0, lineFeed)});
+        records.push_back(
+            {entry.msgid, entry.msgstr, entry.context.substr(lineFeed + 1), entry.context.substr(0, lineFeed)});
     }
     return records;
 }
 
-bool PoCatalog::Load(std::string_view bytes, PoError* error)
+bool PoCatalog::Load(std::string bytes, PoError* error)
 {
     PoCatalog loaded;
-    if (!ParsePo(bytes, loaded.m_file, error))
+    if (!ParsePo(std::move(bytes), loaded.m_file, error))
         return false;
     const PoEntry* header = loaded.m_file.Header();
     if (header && !IsReadableCharset(Charset(header->msgstr)))
@@ -210,18 +211,17 @@ bool PoCatalog::Load(std::string_view bytes, PoError* error)
     std::vector<std::size_t> suspects;
     for (std::size_t i = 0; i < loaded.m_file.entries.size(); ++i)
     {
-        const PoEntry& entry = loaded.m_file.entries[i];
-        if (!entry.hasContext)
+        if (!loaded.m_file.entries[i].hasContext)
         {
             suspects.push_back(i);
             continue;
         }
-        auto [it, added] = loaded.m_index.try_emplace(entry.context, i);
-        if (!added)
+        std::size_t first = loaded.AddToIndex(i);
+        if (first != i)
         {
             loaded.m_sharedContexts = true;
             suspects.push_back(i);
-            suspects.push_back(it->second);
+            suspects.push_back(first);
         }
     }
     std::sort(suspects.begin(), suspects.end());
@@ -238,7 +238,7 @@ bool PoCatalog::Load(std::string_view bytes, PoError* error)
 
 PoCatalog::Result PoCatalog::Insert(std::string_view context, std::string_view msgid, std::string_view msgstr)
 {
-    if (m_index.count(std::string(context)))
+    if (Lookup(context) != kNone)
         return kAlreadyHeld;
     Append(context, msgid, msgstr);
     return kDone;
@@ -246,13 +246,13 @@ PoCatalog::Result PoCatalog::Insert(std::string_view context, std::string_view m
 
 PoCatalog::Result PoCatalog::Update(std::string_view context, std::string_view msgstr)
 {
-    auto it = m_index.find(std::string(context));
-    if (it == m_index.end() || m_file.entries[it->second].hasPlural)
+    std::size_t at = Lookup(context);
+    if (at == kNone || m_file.entries[at].hasPlural)
         return kNotHeld;
-    PoEntry& entry = m_file.entries[it->second];
+    PoEntry& entry = m_file.entries[at];
     if (entry.msgstr == msgstr)
         return kUnchanged;
-    entry.msgstr.assign(msgstr);
+    entry.msgstr = m_file.Keep(msgstr);
     entry.MarkChanged();
     m_changed = true;
     return kDone;
@@ -271,27 +271,27 @@ std::string PoCatalog::Save(const PoHeaderInfo& info)
     PrepareHeader(info);
     for (PoEntry& entry : m_file.entries)
         if (!entry.IsHeader() && HasRefusedLineFeeds(entry))
-            entry.SetFuzzy();
+            m_file.SetFuzzy(entry);
     return WritePo(m_file);
 }
 
 void PoCatalog::Keep(const PoChange& change)
 {
-    auto it = m_index.find(change.context);
-    if (it == m_index.end())
+    std::size_t at = Lookup(change.context);
+    if (at == kNone)
     {
         PoEntry& entry = Append(change.context, change.msgid, change.msgstr);
         if (change.kind == PoChange::kUpdate)
-            entry.comments.emplace_back(kUpdateOnlyComment);
+            entry.comments.push_back(kUpdateOnlyComment);
         return;
     }
-    PoEntry& entry = m_file.entries[it->second];
+    PoEntry& entry = m_file.entries[at];
     if (change.kind == PoChange::kInsert)
     {
-        entry.msgid = change.msgid;
-        std::erase(entry.comments, std::string(kUpdateOnlyComment));
+        entry.msgid = m_file.Keep(change.msgid);
+        std::erase(entry.comments, kUpdateOnlyComment);
     }
-    entry.msgstr = change.msgstr;
+    entry.msgstr = m_file.Keep(change.msgstr);
     entry.MarkChanged();
     m_changed = true;
 }
@@ -305,8 +305,8 @@ std::vector<PoChange> PoCatalog::KeptChanges() const
             continue;
         bool updateOnly =
             std::find(entry.comments.begin(), entry.comments.end(), kUpdateOnlyComment) != entry.comments.end();
-        changes.push_back({updateOnly ? PoChange::kUpdate : PoChange::kInsert, entry.context,
-                           updateOnly ? std::string() : entry.msgid, entry.msgstr});
+        changes.push_back({updateOnly ? PoChange::kUpdate : PoChange::kInsert, std::string(entry.context),
+                           updateOnly ? std::string() : std::string(entry.msgid), std::string(entry.msgstr)});
     }
     return changes;
 }
@@ -315,20 +315,66 @@ PoEntry& PoCatalog::Append(std::string_view context, std::string_view msgid, std
 {
     PoEntry& entry = m_file.entries.emplace_back();
     entry.hasContext = true;
-    entry.context.assign(context);
-    entry.msgid.assign(msgid);
-    entry.msgstr.assign(msgstr);
-    m_index.emplace(entry.context, m_file.entries.size() - 1);
+    entry.context = m_file.Keep(context);
+    entry.msgid = m_file.Keep(msgid);
+    entry.msgstr = m_file.Keep(msgstr);
+    AddToIndex(m_file.entries.size() - 1);
     m_changed = true;
     return entry;
 }
 
+std::size_t PoCatalog::Lookup(std::string_view context) const noexcept
+{
+    if (m_slots.empty())
+        return kNone;
+    std::size_t mask = m_slots.size() - 1;
+    for (std::size_t slot = std::hash<std::string_view>()(context) & mask;; slot = (slot + 1) & mask)
+    {
+        std::uint32_t entry = m_slots[slot];
+        if (entry == 0)
+            return kNone;
+        if (m_file.entries[entry - 1].context == context)
+            return entry - 1;
+    }
+}
+
+std::size_t PoCatalog::AddToIndex(std::size_t entry)
+{
+    // At most half full, so that probes stay short; growing indexes the earlier entries again.
+    if (2 * (m_indexed + 1) > m_slots.size())
+    {
+        std::size_t size = 64;
+        while (size < 4 * (m_indexed + 1))
+            size *= 2;
+        m_slots.assign(size, 0);
+        m_indexed = 0;
+        for (std::size_t i = 0; i < entry; ++i)
+            if (m_file.entries[i].hasContext)
+                AddToIndex(i);
+    }
+    const PoEntry& added = m_file.entries[entry];
+    std::size_t mask = m_slots.size() - 1;
+    for (std::size_t slot = std::hash<std::string_view>()(added.context) & mask;; slot = (slot + 1) & mask)
+    {
+        std::uint32_t other = m_slots[slot];
+        if (other == 0)
+        {
+            m_slots[slot] = static_cast<std::uint32_t>(entry + 1);
+            ++m_indexed;
+            return entry;
+        }
+        if (m_file.entries[other - 1].context == added.context)
+            return other - 1;
+    }
+}
+
 void PoCatalog::Reindex()
 {
-    m_index.clear();
+    m_slots.clear();
+    m_indexed = 0;
     for (std::size_t i = 0; i < m_file.entries.size(); ++i)
         if (m_file.entries[i].hasContext)
-            m_index.try_emplace(m_file.entries[i].context, i);
+            AddToIndex(i);
 }
 
 void PoCatalog::PrepareHeader(const PoHeaderInfo& info)
@@ -338,12 +384,12 @@ void PoCatalog::PrepareHeader(const PoHeaderInfo& info)
     if (header == m_file.entries.end())
     {
         PoEntry entry;
-        entry.msgstr = NewHeader(info);
+        entry.msgstr = m_file.Keep(NewHeader(info));
         m_file.entries.insert(m_file.entries.begin(), std::move(entry));
         Reindex();
         return;
     }
-    std::string& text = header->msgstr;
+    std::string text(header->msgstr);
     if (IsUtf8Charset(Charset(text)))
         return;
     HeaderLine line = FindHeaderField(text, "Content-Type");
@@ -355,6 +401,7 @@ void PoCatalog::PrepareHeader(const PoHeaderInfo& info)
             text += '\n';
         text.append(kUtf8ContentType).append(1, '\n');
     }
+    header->msgstr = m_file.Keep(text);
     header->MarkChanged();
 }
 

@@ -5,9 +5,9 @@
 
 #include "PoFile.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace kiv::rules
@@ -76,7 +76,7 @@ public:
     // Operations
     // Reads a file; refuses one msgfmt would refuse as a whole (syntax, encoding, a charset
     // other than UTF-8, a message defined twice).
-    bool Load(std::string_view bytes, PoError* error = nullptr);
+    bool Load(std::string bytes, PoError* error = nullptr);
     Result Insert(std::string_view context, std::string_view msgid, std::string_view msgstr);
     Result Update(std::string_view context, std::string_view msgstr);
     // Makes a change again on this copy: an insertion the file already holds is dropped, an
@@ -91,12 +91,19 @@ public:
     std::vector<PoChange> KeptChanges() const;
 
 private:
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
     PoEntry& Append(std::string_view context, std::string_view msgid, std::string_view msgstr);
-    void Reindex();
     void PrepareHeader(const PoHeaderInfo& info);
+    // The index of contexts: open addressing over entry numbers, no allocation per entry.
+    std::size_t Lookup(std::string_view context) const noexcept;
+    // Indexes the entry; when its context is there already, answers that entry instead.
+    std::size_t AddToIndex(std::size_t entry);
+    void Reindex();
 
     PoFile m_file;
-    std::unordered_map<std::string, std::size_t> m_index; // context to entry, first one wins
+    std::vector<std::uint32_t> m_slots; // entry number + 1, 0 for a free slot
+    std::size_t m_indexed = 0;
     bool m_sharedContexts = false;
     bool m_changed = false;
 };

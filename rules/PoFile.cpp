@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
+#include <cstring>
 
 namespace kiv::rules
 {
@@ -13,6 +15,18 @@ namespace
 
 constexpr char kContextSeparator = '\x04';
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// The bytes that end a run of plain characters inside a string.
+constexpr struct PlainRunEnds
+{
+    bool ends[256] = {};
+    constexpr PlainRunEnds()
+    {
+        ends[static_cast<unsigned char>('"')] = ends[static_cast<unsigned char>('\\')] =
+            ends[static_cast<unsigned char>('\n')] = true;
+    }
+    constexpr bool operator[](unsigned char c) const { return ends[c]; }
+} kEndsPlainRun;
 
 bool IsSpace(char c) noexcept
 {
@@ -44,7 +58,9 @@ bool HasFlag(std::string_view line, std::string_view flag) noexcept
     return false;
 }
 
-// Reads entries token by token as gettext does, keeping for each where its bytes stood.
+// Reads entries token by token as gettext does, keeping for each where its bytes stood. A
+// string written as one run without escapes is a view of the text; others are decoded into the
+// file's pool.
 class PoReader
 {
 public:
@@ -68,16 +84,17 @@ private:
             ++m_pos;
     }
     void SkipBlank() noexcept;
-    bool SkipToEntry(std::vector<std::string>& comments);
+    bool SkipToEntry(std::vector<std::string_view>& comments);
     bool ReadEntry(PoEntry& entry);
     std::string_view ReadKeyword();
-    bool ReadStrings(std::string& value);
-    bool ReadString(std::string& value, bool& escaped);
-    bool ReadEscape(std::string& value);
+    bool ReadStrings(std::string_view& value);
+    bool ReadString(bool& decoding, bool& escaped);
+    bool ReadEscape();
     bool EndEntryLine();
 
     std::string_view m_text;
     PoFile* m_file;
+    std::string m_decoded; // the string being read, decoded
     std::size_t m_pos = 0;
     int m_line = 1;
     bool m_checkFields = false; // strings are checked one by one when the whole text was not
@@ -97,7 +114,7 @@ void PoReader::SkipBlank() noexcept
 }
 
 // Blank lines and comment lines up to the next entry; false at the end of the text.
-bool PoReader::SkipToEntry(std::vector<std::string>& comments)
+bool PoReader::SkipToEntry(std::vector<std::string_view>& comments)
 {
     for (;;)
     {
@@ -147,7 +164,7 @@ bool PoReader::ReadHeader(std::string& header)
     PoEntry entry;
     if (!SkipToEntry(entry.comments) || !ReadEntry(entry) || !entry.IsHeader())
         return false;
-    header = std::move(entry.msgstr);
+    header.assign(entry.msgstr);
     return true;
 }
 
@@ -211,15 +228,18 @@ bool PoReader::ReadEntry(PoEntry& entry)
 }
 
 // One or more strings in a row, joined; the position stays after the last one.
-bool PoReader::ReadStrings(std::string& value)
+bool PoReader::ReadStrings(std::string_view& value)
 {
     SkipBlank();
     if (AtEnd() || m_text[m_pos] != '"')
         return Fail("string expected");
-    bool escaped = false;
+    std::size_t first = m_pos + 1;
+    // Only strings with escapes, or made of several, are copied; the others stay views of the text.
+    bool decoding = false, escaped = false;
+    m_decoded.clear();
     for (;;)
     {
-        if (!ReadString(value, escaped))
+        if (!ReadString(decoding, escaped))
             return false;
         std::size_t pos = m_pos;
         int line = m_line;
@@ -230,38 +250,47 @@ bool PoReader::ReadStrings(std::string& value)
             m_line = line;
             break;
         }
+        if (!decoding)
+            m_decoded.assign(m_text.substr(first, pos - 1 - first));
+        decoding = true;
     }
+    value = decoding ? m_file->Keep(m_decoded) : m_text.substr(first, m_pos - 1 - first);
     // The raw text was checked as a whole; bytes made by escapes and strings read on their own were not.
     if ((escaped || m_checkFields) && !IsValidUtf8(value))
         return Fail("string is not UTF-8");
-    if (m_checkFields && value.find_first_of(std::string_view("\0\x04", 2)) != std::string::npos)
+    if (m_checkFields && value.find_first_of(std::string_view("\0\x04", 2)) != std::string_view::npos)
         return Fail("NUL or context separator in a string");
     return true;
 }
 
-bool PoReader::ReadString(std::string& value, bool& escaped)
+bool PoReader::ReadString(bool& decoding, bool& escaped)
 {
     ++m_pos; // the opening quote
     for (;;)
     {
         std::size_t start = m_pos;
-        while (!AtEnd() && m_text[m_pos] != '"' && m_text[m_pos] != '\\' && m_text[m_pos] != '\n')
+        while (!AtEnd() && !kEndsPlainRun[static_cast<unsigned char>(m_text[m_pos])])
             ++m_pos;
-        value.append(m_text.data() + start, m_pos - start);
         if (AtEnd() || m_text[m_pos] == '\n')
             return Fail("line end inside a string");
+        if (m_text[m_pos] == '"' && !decoding)
+        {
+            ++m_pos;
+            return true;
+        }
+        m_decoded.append(m_text.data() + start, m_pos - start);
         if (m_text[m_pos] == '"')
         {
             ++m_pos;
             return true;
         }
-        escaped = true;
-        if (!ReadEscape(value))
+        decoding = escaped = true;
+        if (!ReadEscape())
             return false;
     }
 }
 
-bool PoReader::ReadEscape(std::string& value)
+bool PoReader::ReadEscape()
 {
     ++m_pos; // the backslash
     if (AtEnd())
@@ -271,7 +300,7 @@ bool PoReader::ReadEscape(std::string& value)
     for (const char* p = kNamed; *p; p += 2)
         if (c == p[0])
         {
-            value += p[1];
+            m_decoded += p[1];
             return true;
         }
     unsigned int code = 0;
@@ -293,7 +322,7 @@ bool PoReader::ReadEscape(std::string& value)
         return Fail("unknown escape sequence");
     if (code == 0 || code > 0xFF || code == static_cast<unsigned char>(kContextSeparator))
         return Fail("escape gives NUL, the context separator or more than a byte");
-    value += static_cast<char>(code);
+    m_decoded += static_cast<char>(code);
     return true;
 }
 
@@ -317,9 +346,25 @@ std::string_view WithoutByteOrderMark(std::string_view bytes) noexcept
     return bytes;
 }
 
+// True when a word of eight bytes holds a zero byte.
+constexpr bool HasZeroByte(std::uint64_t v) noexcept
+{
+    return ((v - 0x0101010101010101ull) & ~v & 0x8080808080808080ull) != 0;
+}
+
 bool IsCleanText(std::string_view text) noexcept
 {
-    return IsValidUtf8(text) && text.find_first_of(std::string_view("\0\x04", 2)) == std::string_view::npos;
+    // Eight bytes at a time: mostly no NUL and no context separator.
+    std::size_t i = 0;
+    for (std::uint64_t block; i + 8 <= text.size(); i += 8)
+    {
+        std::memcpy(&block, text.data() + i, 8);
+        if (HasZeroByte(block) || HasZeroByte(block ^ 0x0404040404040404ull))
+            break;
+    }
+    return std::none_of(text.begin() + static_cast<std::ptrdiff_t>(i), text.end(),
+                        [](char c) { return c == '\0' || c == kContextSeparator; }) &&
+           IsValidUtf8(text);
 }
 
 int FirstUncleanLine(std::string_view text)
@@ -371,7 +416,7 @@ void AppendField(std::string& out, std::string_view keyword, std::string_view va
 
 void AppendEntry(std::string& out, const PoEntry& entry, const std::string& nl)
 {
-    for (const std::string& comment : entry.comments)
+    for (std::string_view comment : entry.comments)
     {
         out += comment;
         out += nl;
@@ -393,28 +438,46 @@ void AppendEntry(std::string& out, const PoEntry& entry, const std::string& nl)
 
 bool PoEntry::IsFuzzy() const noexcept
 {
-    for (const std::string& line : comments)
+    for (std::string_view line : comments)
         if (IsFlagLine(line) && HasFlag(line, "fuzzy"))
             return true;
     return false;
 }
 
-void PoEntry::SetFuzzy()
+std::string_view PoFile::Keep(std::string_view text)
 {
-    if (IsFuzzy())
+    if (text.empty())
+        return std::string_view();
+    if (text.size() > m_poolLeft)
+    {
+        std::size_t size = std::max<std::size_t>(text.size(), 64 * 1024);
+        m_pool.emplace_back(new char[size]);
+        m_poolNext = m_pool.back().get();
+        m_poolLeft = size;
+    }
+    char* kept = m_poolNext;
+    std::memcpy(kept, text.data(), text.size());
+    m_poolNext += text.size();
+    m_poolLeft -= text.size();
+    return std::string_view(kept, text.size());
+}
+
+void PoFile::SetFuzzy(PoEntry& entry)
+{
+    if (entry.IsFuzzy())
         return;
-    MarkChanged();
-    for (std::string& line : comments)
+    entry.MarkChanged();
+    for (std::string_view& line : entry.comments)
         if (IsFlagLine(line))
         {
-            line += ", fuzzy";
+            line = Keep(std::string(line) + ", fuzzy");
             return;
         }
     // Flags go before the "#|" lines, which must stand right above the entry.
-    std::size_t at = comments.size();
-    while (at > 0 && comments[at - 1].compare(0, 2, "#|") == 0)
+    std::size_t at = entry.comments.size();
+    while (at > 0 && entry.comments[at - 1].substr(0, 2) == "#|")
         --at;
-    comments.insert(comments.begin() + static_cast<std::ptrdiff_t>(at), "#, fuzzy");
+    entry.comments.insert(entry.comments.begin() + static_cast<std::ptrdiff_t>(at), "#, fuzzy");
 }
 
 bool PoEntry::operator==(const PoEntry& other) const
@@ -437,7 +500,7 @@ bool PoFile::operator==(const PoFile& other) const
     return entries == other.entries && Trailer() == other.Trailer();
 }
 
-bool ParsePo(std::string_view bytes, PoFile& file, PoError* error)
+bool ParsePo(std::string bytes, PoFile& file, PoError* error)
 {
     file = PoFile();
     std::string_view text = WithoutByteOrderMark(bytes);
@@ -450,11 +513,15 @@ bool ParsePo(std::string_view bytes, PoFile& file, PoError* error)
         }
         return false;
     }
-    file.text.assign(text);
+    if (text.size() != bytes.size())
+        bytes.erase(0, bytes.size() - text.size());
+    file.m_text = std::make_unique<std::string>(std::move(bytes));
+    text = *file.m_text;
     std::size_t firstBreak = text.find('\n');
     if (firstBreak != std::string_view::npos && firstBreak > 0 && text[firstBreak - 1] == '\r')
-        file.newline = "\r\n";
-    PoReader reader(file.text, &file);
+        file.m_newline = "\r\n";
+    file.entries.reserve(text.size() / 64); // an entry of the store takes about that much
+    PoReader reader(text, &file);
     if (reader.ReadFile())
         return true;
     if (error)
@@ -465,15 +532,16 @@ bool ParsePo(std::string_view bytes, PoFile& file, PoError* error)
 
 bool ParsePoHeader(std::string_view bytes, std::string& header)
 {
-    PoReader reader(WithoutByteOrderMark(bytes), nullptr);
+    PoFile pool; // keeps the decoded strings while the entry is read
+    PoReader reader(WithoutByteOrderMark(bytes), &pool);
     return reader.ReadHeader(header);
 }
 
 std::string WritePo(const PoFile& file)
 {
-    const std::string& nl = file.newline;
+    const std::string& nl = file.Newline();
     std::string out;
-    out.reserve(file.text.size() + 4096);
+    out.reserve(file.Text().size() + 4096);
     bool afterWritten = false; // the last entry was written from its fields
     for (const PoEntry& entry : file.entries)
     {
@@ -481,8 +549,7 @@ std::string WritePo(const PoFile& file)
         if (!out.empty() && out.back() != '\n')
             out += nl;
         std::string_view text =
-            changed ? std::string_view()
-                    : std::string_view(file.text).substr(entry.textBegin, entry.textEnd - entry.textBegin);
+            changed ? std::string_view() : file.Text().substr(entry.textBegin, entry.textEnd - entry.textBegin);
         // A blank line between entries, unless the entry's own bytes bring one.
         bool bringsBlank =
             !changed && (text.front() == '\n' || (text.front() == '\r' && text.size() > 1 && text[1] == '\n'));

@@ -1,6 +1,7 @@
 #include "LanguageStore.h"
 
 #include "StoreFiles.h"
+#include "StringBlock.h"
 #include "TextConversion.h"
 
 #include <cstdio>
@@ -27,12 +28,35 @@ std::string_view WithoutByteOrderMark(std::string_view bytes)
 
 } // namespace
 
-// One call's table of records: four strings per record in one block, and the slots pointing at them.
+// One call's table of records: four strings per record, and the slots pointing at them. The
+// strings go before their block, which then sees whether a copy outlives them.
 struct LanguageStore::RecordTable
 {
+    StringBlock block;
     std::unique_ptr<CStringW[]> strings;
     std::vector<CStringW*> slots;
 };
+
+std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::vector<PoRecord>& records)
+{
+    auto table = std::make_unique<RecordTable>();
+    table->strings.reset(new CStringW[records.size() * 4]);
+    table->slots.assign(records.size() + 1, nullptr);
+    for (std::size_t i = 0; i < records.size(); ++i)
+    {
+        CStringW* record = &table->strings[i * 4];
+        table->block.Assign(record[0], records[i].defaultText);
+        table->block.Assign(record[1], records[i].translation);
+        table->block.Assign(record[2], records[i].key);
+        // Records of one section mostly follow each other and share its string.
+        if (i > 0 && records[i].section == records[i - 1].section)
+            record[3] = record[-1];
+        else
+            table->block.Assign(record[3], records[i].section);
+        table->slots[i] = record;
+    }
+    return table;
+}
 
 struct LanguageStore::Language
 {
@@ -94,22 +118,8 @@ CStringW** LanguageStore::Strings(const char* id)
         return nullptr;
     if (!language->tableCurrent)
     {
-        std::vector<PoRecord> records;
-        if (language->readable)
-            records = language->catalog.Records();
-        auto table = std::make_unique<RecordTable>();
-        table->strings.reset(new CStringW[records.size() * 4]);
-        table->slots.assign(records.size() + 1, nullptr);
-        for (std::size_t i = 0; i < records.size(); ++i)
-        {
-            CStringW* record = &table->strings[i * 4];
-            AssignUtf8(record[0], records[i].defaultText);
-            AssignUtf8(record[1], records[i].translation);
-            AssignUtf8(record[2], records[i].key);
-            AssignUtf8(record[3], records[i].section);
-            table->slots[i] = record;
-        }
-        language->tables.push_back(std::move(table));
+        language->tables.push_back(
+            MakeTable(language->readable ? language->catalog.Records() : std::vector<PoRecord>()));
         language->tableCurrent = true;
     }
     return language->tables.back()->slots.data();
@@ -200,7 +210,7 @@ void LanguageStore::Load(Language& language)
 {
     language.loaded = true;
     std::string bytes;
-    language.readable = ReadWholeFile(language.path, bytes) && language.catalog.Load(bytes);
+    language.readable = ReadWholeFile(language.path, bytes) && language.catalog.Load(std::move(bytes));
     std::string side;
     PoCatalog kept;
     if (!language.readable || !ReadWholeFile(language.path + kSideFileSuffix, side) || !kept.Load(side))
@@ -238,7 +248,7 @@ void LanguageStore::FlushLanguage(Language& language)
     std::string current;
     bool read = ReadWholeFile(language.path, current);
     // Another program wrote the file since it was read: the changes are made again on its copy.
-    if (!read || WithoutByteOrderMark(current) != language.catalog.File().text)
+    if (!read || WithoutByteOrderMark(current) != language.catalog.File().Text())
     {
         if (!read || !fresh.Load(current))
         {

@@ -35,6 +35,7 @@ private:
     struct RecordTable;
     struct Language;
 
+    static std::unique_ptr<RecordTable> MakeTable(const std::vector<kiv::rules::PoRecord>& records);
     Language* Find(const char* id);
     Language* Loaded(const char* id);
     void Load(Language& language);

@@ -27,10 +27,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ParsePoHeader(bytes, header);
 
     PoFile file;
-    if (!ParsePo(bytes, file))
+    if (!ParsePo(std::string(bytes), file))
         return 0;
     std::string written = WritePo(file);
-    Check(written == file.text);
+    Check(written == file.Text());
 
     for (PoEntry& entry : file.entries)
         entry.MarkChanged();
@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // The store's view: a file that loads saves into one that loads with the same records.
     PoCatalog catalog;
-    if (catalog.Load(bytes))
+    if (catalog.Load(std::string(bytes)))
     {
         std::size_t records = catalog.Records().size();
         bool inserted = catalog.Insert("fuzz\nkey", "\"\n\\", "\t\xF0\x9F\x98\x80\n") == PoCatalog::kDone;

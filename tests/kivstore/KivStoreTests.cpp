@@ -170,6 +170,37 @@ TEST_F(KivStore, TablesStayValidUntilTheLibraryIsUnloaded)
     EXPECT_EQ(nullptr, first[3]);
 }
 
+// A record's strings are ordinary shared strings: a copy stays valid after the library is gone.
+TEST_F(KivStore, CopyOfARecordOutlivesTheLibrary)
+{
+    WriteFile("de.po", kGerman);
+    Load();
+    CStringW copy = Strings("de")[1][1];
+    CStringW section = Strings("de")[2][3];
+    Unload();
+    EXPECT_STREQ(L"Abbrechen", copy);
+    EXPECT_STREQ(L"STRINGTABLE", section);
+    copy += L"!";
+    EXPECT_STREQ(L"Abbrechen!", copy);
+}
+
+// Writing to a record copies it first, as for any shared string; nothing else changes.
+TEST_F(KivStore, ChangingARecordTouchesNothingElse)
+{
+    WriteFile("de.po", kGerman);
+    Load();
+    CStringW** table = Strings("de");
+    table[0][3] += L"x";
+    table[1][1] = L"Weg";
+    table[1][1].MakeUpper();
+    EXPECT_STREQ(L"100x", table[0][3]);
+    EXPECT_STREQ(L"100", table[1][3]);
+    EXPECT_STREQ(L"WEG", table[1][1]);
+    EXPECT_STREQ(L"Abbrechen", Held("de", "100", "2"));
+    Unload();
+    EXPECT_EQ(kGerman, ReadFile("de.po"));
+}
+
 TEST_F(KivStore, GetLanguageStringAnswersZeroAndTheTranslation)
 {
     WriteFile("de.po", kGerman);

@@ -17,7 +17,7 @@ PoFile Parsed(std::string_view text)
 {
     PoFile file;
     PoError error;
-    EXPECT_TRUE(ParsePo(text, file, &error)) << error.line << ": " << error.message;
+    EXPECT_TRUE(ParsePo(std::string(text), file, &error)) << error.line << ": " << error.message;
     return file;
 }
 
@@ -25,19 +25,19 @@ int ErrorLine(std::string_view text)
 {
     PoFile file;
     PoError error;
-    EXPECT_FALSE(ParsePo(text, file, &error));
+    EXPECT_FALSE(ParsePo(std::string(text), file, &error));
     EXPECT_TRUE(file.entries.empty());
     return error.line;
 }
 
-PoEntry NewEntry(std::string context, std::string msgid, std::string msgstr)
+// A new entry whose strings the file keeps.
+void AddEntry(PoFile& file, std::string_view context, std::string_view msgid, std::string_view msgstr)
 {
-    PoEntry entry;
+    PoEntry& entry = file.entries.emplace_back();
     entry.hasContext = true;
-    entry.context = std::move(context);
-    entry.msgid = std::move(msgid);
-    entry.msgstr = std::move(msgstr);
-    return entry;
+    entry.context = file.Keep(context);
+    entry.msgid = file.Keep(msgid);
+    entry.msgstr = file.Keep(msgstr);
 }
 
 const char kTranslated[] = "# German texts\n"
@@ -65,13 +65,13 @@ TEST(ParsePo, ReadsHeaderContextsTextsAndComments)
     ASSERT_EQ(3u, file.entries.size());
     EXPECT_TRUE(file.entries[0].IsHeader());
     EXPECT_EQ("Content-Type: text/plain; charset=UTF-8\n", file.entries[0].msgstr);
-    EXPECT_EQ(std::vector<std::string>{"# German texts"}, file.entries[0].comments);
+    EXPECT_EQ(std::vector<std::string_view>{"# German texts"}, file.entries[0].comments);
     const PoEntry& ok = file.entries[1];
     EXPECT_TRUE(ok.hasContext);
     EXPECT_EQ("100\n1", ok.context);
     EXPECT_EQ("OK", ok.msgid);
     EXPECT_EQ("In Ordnung", ok.msgstr);
-    EXPECT_EQ((std::vector<std::string>{"#. a button", "#: dialog.rc:12", "#, fuzzy, c-format"}), ok.comments);
+    EXPECT_EQ((std::vector<std::string_view>{"#. a button", "#: dialog.rc:12", "#, fuzzy, c-format"}), ok.comments);
     EXPECT_TRUE(ok.IsFuzzy());
     EXPECT_EQ("Abbrechen", file.entries[2].msgstr);
     EXPECT_FALSE(file.entries[2].IsFuzzy());
@@ -110,7 +110,7 @@ TEST(ParsePo, ReadsPluralForms)
     ASSERT_EQ(1u, file.entries.size());
     EXPECT_TRUE(file.entries[0].hasPlural);
     EXPECT_EQ("files", file.entries[0].msgidPlural);
-    EXPECT_EQ((std::vector<std::string>{"Datei", "Dateien"}), file.entries[0].plurals);
+    EXPECT_EQ((std::vector<std::string_view>{"Datei", "Dateien"}), file.entries[0].plurals);
 }
 
 TEST(ParsePo, EmptyFileAndCommentsOnlyHaveNoEntries)
@@ -125,13 +125,13 @@ TEST(ParsePo, SkipsByteOrderMark)
 {
     PoFile file = Parsed("\xEF\xBB\xBFmsgid \"a\"\nmsgstr \"b\"\n");
     ASSERT_EQ(1u, file.entries.size());
-    EXPECT_EQ("msgid \"a\"\nmsgstr \"b\"\n", file.text);
+    EXPECT_EQ("msgid \"a\"\nmsgstr \"b\"\n", file.Text());
 }
 
 TEST(ParsePo, TakesTheLineEndOfTheFile)
 {
-    EXPECT_EQ("\r\n", Parsed("msgid \"a\"\r\nmsgstr \"b\"\r\n").newline);
-    EXPECT_EQ("\n", Parsed("msgid \"a\"\nmsgstr \"b\"\r\n").newline);
+    EXPECT_EQ("\r\n", Parsed("msgid \"a\"\r\nmsgstr \"b\"\r\n").Newline());
+    EXPECT_EQ("\n", Parsed("msgid \"a\"\nmsgstr \"b\"\r\n").Newline());
 }
 
 TEST(ParsePo, CommentsAfterTheLastEntryAreTheTrailer)
@@ -206,7 +206,7 @@ TEST(WritePo, ChangedEntryIsTheOnlyPartWrittenAnew)
 TEST(WritePo, NewEntriesGoAfterTheLastEntryAndBeforeTheTrailer)
 {
     PoFile file = Parsed("msgid \"a\"\nmsgstr \"b\"\n\n#~ msgid \"old\"\n");
-    file.entries.push_back(NewEntry("7\n8", "c", "d"));
+    AddEntry(file, "7\n8", "c", "d");
     EXPECT_EQ("msgid \"a\"\nmsgstr \"b\"\n\nmsgctxt \"7\\n8\"\nmsgid \"c\"\nmsgstr \"d\"\n\n#~ msgid \"old\"\n",
               WritePo(file));
 }
@@ -214,14 +214,14 @@ TEST(WritePo, NewEntriesGoAfterTheLastEntryAndBeforeTheTrailer)
 TEST(WritePo, EntryAfterALastLineWithoutLineEndStartsOnANewLine)
 {
     PoFile file = Parsed("msgid \"a\"\nmsgstr \"b\"");
-    file.entries.push_back(NewEntry("k", "c", ""));
+    AddEntry(file, "k", "c", "");
     EXPECT_EQ("msgid \"a\"\nmsgstr \"b\"\n\nmsgctxt \"k\"\nmsgid \"c\"\nmsgstr \"\"\n", WritePo(file));
 }
 
 TEST(WritePo, NewEntryUsesTheLineEndOfTheFile)
 {
     PoFile file = Parsed("msgid \"a\"\r\nmsgstr \"b\"\r\n");
-    file.entries.push_back(NewEntry("k", "x\ny", ""));
+    AddEntry(file, "k", "x\ny", "");
     EXPECT_EQ("msgid \"a\"\r\nmsgstr \"b\"\r\n\r\nmsgctxt \"k\"\r\nmsgid \"\"\r\n\"x\\n\"\r\n\"y\"\r\nmsgstr \"\"\r\n",
               WritePo(file));
 }
@@ -229,7 +229,7 @@ TEST(WritePo, NewEntryUsesTheLineEndOfTheFile)
 TEST(WritePo, TextWithInnerLineFeedsIsOneStringPerLine)
 {
     PoFile file;
-    file.entries.push_back(NewEntry("1\n2", "one\ntwo\n", "eins\n\nzwei"));
+    AddEntry(file, "1\n2", "one\ntwo\n", "eins\n\nzwei");
     EXPECT_EQ("msgctxt \"1\\n2\"\nmsgid \"\"\n\"one\\n\"\n\"two\\n\"\nmsgstr \"\"\n\"eins\\n\"\n\"\\n\"\n\"zwei\"\n",
               WritePo(file));
 }
@@ -238,7 +238,7 @@ TEST(WritePo, WritesCommentsAndPluralsOfAChangedEntry)
 {
     PoFile file =
         Parsed("# t\n#| msgid \"f\"\nmsgid \"file\"\nmsgid_plural \"files\"\nmsgstr[0] \"D\"\nmsgstr[1] \"Ds\"\n");
-    file.entries[0].SetFuzzy();
+    file.SetFuzzy(file.entries[0]);
     EXPECT_EQ(
         "# t\n#, fuzzy\n#| msgid \"f\"\nmsgid \"file\"\nmsgid_plural \"files\"\nmsgstr[0] \"D\"\nmsgstr[1] \"Ds\"\n",
         WritePo(file));
@@ -254,19 +254,20 @@ TEST(AppendQuoted, EscapesQuotesBackslashesAndControlCharacters)
 
 TEST(PoEntry, FuzzyJoinsTheExistingFlags)
 {
-    PoEntry entry = Parsed("#, c-format\nmsgid \"a\"\nmsgstr \"b\"\n").entries[0];
+    PoFile file = Parsed("#, c-format\nmsgid \"a\"\nmsgstr \"b\"\n");
+    PoEntry& entry = file.entries[0];
     EXPECT_FALSE(entry.IsChanged());
-    entry.SetFuzzy();
-    EXPECT_EQ(std::vector<std::string>{"#, c-format, fuzzy"}, entry.comments);
+    file.SetFuzzy(entry);
+    EXPECT_EQ(std::vector<std::string_view>{"#, c-format, fuzzy"}, entry.comments);
     EXPECT_TRUE(entry.IsChanged());
-    entry.SetFuzzy();
-    EXPECT_EQ(std::vector<std::string>{"#, c-format, fuzzy"}, entry.comments);
+    file.SetFuzzy(entry);
+    EXPECT_EQ(std::vector<std::string_view>{"#, c-format, fuzzy"}, entry.comments);
 }
 
 TEST(PoEntry, FuzzyIsAFlagNotAWordInAComment)
 {
-    PoEntry entry = Parsed("# fuzzy\n#, no-fuzzy-thing\nmsgid \"a\"\nmsgstr \"b\"\n").entries[0];
-    EXPECT_FALSE(entry.IsFuzzy());
+    PoFile file = Parsed("# fuzzy\n#, no-fuzzy-thing\nmsgid \"a\"\nmsgstr \"b\"\n");
+    EXPECT_FALSE(file.entries[0].IsFuzzy());
 }
 
 TEST(PoRoundTrip, HostileTextsSurviveWritingAndReading)
@@ -283,7 +284,7 @@ TEST(PoRoundTrip, HostileTextsSurviveWritingAndReading)
                                  "\\n \\x41 \\101"};
     PoFile file;
     for (const std::string& text : texts)
-        file.entries.push_back(NewEntry(text + "\n" + text, text, text));
+        AddEntry(file, text + "\n" + text, text, text);
     PoFile back = Parsed(WritePo(file));
     EXPECT_EQ(file, back);
 }
