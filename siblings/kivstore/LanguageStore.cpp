@@ -14,7 +14,6 @@ using kiv::rules::PoRecord;
 namespace
 {
 
-constexpr char kPoExtension[] = ".po";
 constexpr char kSideFileSuffix[] = ".pending";
 constexpr std::size_t kHeaderReadLimit = 64 * 1024;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -75,11 +74,11 @@ struct LanguageStore::Language
 
 LanguageStore::LanguageStore(std::string folder) : m_folder(std::move(folder))
 {
-    for (std::string& id : ListPoFiles(m_folder))
+    for (const std::string& name : ListPoFiles(m_folder))
     {
         auto language = std::make_unique<Language>();
-        language->path = m_folder + id + kPoExtension;
-        language->id = std::move(id);
+        language->path = m_folder + name;
+        language->id = name.substr(0, name.size() - (sizeof(kPoExtension) - 1));
         m_languages.push_back(std::move(language));
     }
 }

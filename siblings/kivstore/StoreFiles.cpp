@@ -8,8 +8,6 @@
 namespace
 {
 
-constexpr char kPoExtension[] = ".po";
-
 bool WriteAll(HANDLE file, const std::string& bytes)
 {
     for (std::size_t done = 0; done < bytes.size();)
@@ -86,7 +84,7 @@ std::vector<std::string> ListPoFiles(const std::string& folder)
         // The exact extension: "de.po.pending" and "de.pot" are not languages.
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && length > extension &&
             ::lstrcmpiA(found.cFileName + length - extension, kPoExtension) == 0)
-            names.emplace_back(found.cFileName, length - extension);
+            names.emplace_back(found.cFileName, length);
     } while (::FindNextFileA(search, &found));
     ::FindClose(search);
     std::sort(names.begin(), names.end(),

@@ -644,6 +644,42 @@ TEST_F(KivStore, NothingChangedNothingWritten)
     EXPECT_EQ(Replaced(Replaced(before, "Gut", "Prima"), "CHARSET", "UTF-8"), ReadFile("de.po"));
 }
 
+// A host that exits without releasing the library still leaves its texts in the file.
+TEST_F(KivStore, ChangesAreWrittenWhenTheProcessEndsWithoutReleasingTheLibrary)
+{
+    WriteFile("de.po", kGerman);
+    std::string command = "\"" + ProgramFolder() + "kivstore_exit_helper.exe\" Apply Anwenden de 200";
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process = {};
+    ASSERT_TRUE(
+        ::CreateProcessA(nullptr, &command[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process));
+    ASSERT_EQ(WAIT_OBJECT_0, ::WaitForSingleObject(process.hProcess, 60000));
+    DWORD exitCode = 1;
+    ::GetExitCodeProcess(process.hProcess, &exitCode);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    EXPECT_EQ(0u, exitCode);
+    EXPECT_EQ(kGerman + Entry("200", "1", "Apply", "Anwenden"), ReadFile("de.po"));
+}
+
+// The file keeps the name the folder gives it, in its own spelling.
+TEST_F(KivStore, FileKeepsItsSpelling)
+{
+    WriteFile("Fr.PO", kHeader);
+    Load();
+    EXPECT_STREQ("Fr", Id("fr"));
+    EXPECT_EQ(kStoreOk, Insert("Apply", L"Appliquer", "fr", "100", "3"));
+    Unload();
+    EXPECT_EQ(kHeader + Entry("100", "3", "Apply", "Appliquer"), ReadFile("Fr.PO"));
+    WIN32_FIND_DATAA found;
+    HANDLE search = ::FindFirstFileA(PathOf("*.po").c_str(), &found);
+    ASSERT_NE(INVALID_HANDLE_VALUE, search);
+    EXPECT_STREQ("Fr.PO", found.cFileName);
+    EXPECT_FALSE(::FindNextFileA(search, &found));
+    ::FindClose(search);
+}
+
 TEST_F(KivStore, FolderRelativeToTheProgram)
 {
     WriteFile("de.po", kGerman);
