@@ -339,13 +339,6 @@ bool PoReader::EndEntryLine()
     return true;
 }
 
-std::string_view WithoutByteOrderMark(std::string_view bytes) noexcept
-{
-    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark)
-        bytes.remove_prefix(kByteOrderMark.size());
-    return bytes;
-}
-
 // True when a word of eight bytes holds a zero byte.
 constexpr bool HasZeroByte(std::uint64_t v) noexcept
 {
@@ -528,6 +521,13 @@ bool ParsePo(std::string bytes, PoFile& file, PoError* error)
         *error = reader.Error();
     file = PoFile();
     return false;
+}
+
+std::string_view WithoutByteOrderMark(std::string_view bytes) noexcept
+{
+    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark)
+        bytes.remove_prefix(kByteOrderMark.size());
+    return bytes;
 }
 
 bool ParsePoHeader(std::string_view bytes, std::string& header)

@@ -86,6 +86,9 @@ private:
     std::string m_newline = "\n";
 };
 
+// The bytes without a leading UTF-8 byte order mark, which some editors write and msgfmt refuses.
+std::string_view WithoutByteOrderMark(std::string_view bytes) noexcept;
+
 // The msgstr of the first entry when that entry is the header; reads nothing after it.
 bool ParsePoHeader(std::string_view bytes, std::string& header);
 

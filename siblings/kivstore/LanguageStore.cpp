@@ -10,20 +10,13 @@ using kiv::rules::PoCatalog;
 using kiv::rules::PoChange;
 using kiv::rules::PoEntry;
 using kiv::rules::PoRecord;
+using kiv::rules::WithoutByteOrderMark;
 
 namespace
 {
 
 constexpr char kSideFileSuffix[] = ".pending";
 constexpr std::size_t kHeaderReadLimit = 64 * 1024;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-std::string_view WithoutByteOrderMark(std::string_view bytes)
-{
-    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark)
-        bytes.remove_prefix(kByteOrderMark.size());
-    return bytes;
-}
 
 } // namespace
 
@@ -49,7 +42,7 @@ std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::
         table->block.Assign(record[2], records[i].key);
         // Records of one section mostly follow each other and share its string.
         if (i > 0 && records[i].section == records[i - 1].section)
-            record[3] = record[-1];
+            record[3] = table->slots[i - 1][3];
         else
             table->block.Assign(record[3], records[i].section);
         table->slots[i] = record;
