@@ -103,14 +103,16 @@ private:
 
 void PoReader::SkipBlank() noexcept
 {
-    for (; !AtEnd(); ++m_pos)
+    std::size_t pos = m_pos;
+    for (; pos < m_text.size(); ++pos)
     {
-        char c = m_text[m_pos];
+        char c = m_text[pos];
         if (c == '\n')
             ++m_line;
         else if (!IsSpace(c))
-            return;
+            break;
     }
+    m_pos = pos;
 }
 
 // Blank lines and comment lines up to the next entry; false at the end of the text.
@@ -171,9 +173,10 @@ bool PoReader::ReadHeader(std::string& header)
 std::string_view PoReader::ReadKeyword()
 {
     SkipBlank();
-    std::size_t start = m_pos;
-    while (!AtEnd() && ((m_text[m_pos] >= 'a' && m_text[m_pos] <= 'z') || m_text[m_pos] == '_'))
-        ++m_pos;
+    std::size_t start = m_pos, pos = m_pos;
+    while (pos < m_text.size() && ((m_text[pos] >= 'a' && m_text[pos] <= 'z') || m_text[pos] == '_'))
+        ++pos;
+    m_pos = pos;
     if (!AtEnd() && m_text[m_pos] == '[' && m_pos > start)
     {
         std::size_t close = m_pos + 1;
@@ -268,9 +271,10 @@ bool PoReader::ReadString(bool& decoding, bool& escaped)
     ++m_pos; // the opening quote
     for (;;)
     {
-        std::size_t start = m_pos;
-        while (!AtEnd() && !kEndsPlainRun[static_cast<unsigned char>(m_text[m_pos])])
-            ++m_pos;
+        std::size_t start = m_pos, pos = m_pos;
+        while (pos < m_text.size() && !kEndsPlainRun[static_cast<unsigned char>(m_text[pos])])
+            ++pos;
+        m_pos = pos;
         if (AtEnd() || m_text[m_pos] == '\n')
             return Fail("line end inside a string");
         if (m_text[m_pos] == '"' && !decoding)
