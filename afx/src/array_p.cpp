@@ -17,6 +17,36 @@ INT_PTR GrowStep(INT_PTR nGrowBy, INT_PTR nSize)
     return step < 4 ? 4 : (step > 1024 ? 1024 : step);
 }
 
+// Resizes an array's storage; new elements are value-initialised, dropped ones emptied.
+template <typename T>
+void ResizeArray(T*& pData, INT_PTR& nSize, INT_PTR& nMaxSize, INT_PTR nGrowBy, INT_PTR nNewSize)
+{
+    if (nNewSize <= 0)
+    {
+        delete[] pData;
+        pData = nullptr;
+        nSize = nMaxSize = 0;
+        return;
+    }
+    if (nNewSize > nMaxSize)
+    {
+        INT_PTR nNewMax = nMaxSize + GrowStep(nGrowBy, nSize);
+        if (nNewMax < nNewSize)
+            nNewMax = nNewSize;
+        T* pNewData = new T[nNewMax]();
+        for (INT_PTR i = 0; i < nSize; ++i)
+            pNewData[i] = std::move(pData[i]);
+        delete[] pData;
+        pData = pNewData;
+        nMaxSize = nNewMax;
+    }
+    for (INT_PTR i = nNewSize; i < nSize; ++i)
+        pData[i] = T();
+    for (INT_PTR i = nSize; i < nNewSize; ++i)
+        pData[i] = T();
+    nSize = nNewSize;
+}
+
 }  // namespace
 
 CPtrArray::~CPtrArray()
@@ -28,28 +58,7 @@ void CPtrArray::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
 {
     if (nGrowBy >= 0)
         m_nGrowBy = nGrowBy;
-    if (nNewSize <= 0)
-    {
-        delete[] m_pData;
-        m_pData = nullptr;
-        m_nSize = m_nMaxSize = 0;
-        return;
-    }
-    if (nNewSize > m_nMaxSize)
-    {
-        INT_PTR nNewMax = m_nMaxSize + GrowStep(m_nGrowBy, m_nSize);
-        if (nNewMax < nNewSize)
-            nNewMax = nNewSize;
-        void** pNewData = new void*[nNewMax]();
-        for (INT_PTR i = 0; i < m_nSize; ++i)
-            pNewData[i] = m_pData[i];
-        delete[] m_pData;
-        m_pData = pNewData;
-        m_nMaxSize = nNewMax;
-    }
-    for (INT_PTR i = m_nSize; i < nNewSize; ++i)
-        m_pData[i] = nullptr;
-    m_nSize = nNewSize;
+    ResizeArray(m_pData, m_nSize, m_nMaxSize, m_nGrowBy, nNewSize);
 }
 
 void CPtrArray::FreeExtra()
@@ -134,28 +143,7 @@ void CStringArray::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
 {
     if (nGrowBy >= 0)
         m_nGrowBy = nGrowBy;
-    if (nNewSize <= 0)
-    {
-        delete[] m_pData;
-        m_pData = nullptr;
-        m_nSize = m_nMaxSize = 0;
-        return;
-    }
-    if (nNewSize > m_nMaxSize)
-    {
-        INT_PTR nNewMax = m_nMaxSize + GrowStep(m_nGrowBy, m_nSize);
-        if (nNewMax < nNewSize)
-            nNewMax = nNewSize;
-        CString* pNewData = new CString[nNewMax];
-        for (INT_PTR i = 0; i < m_nSize; ++i)
-            pNewData[i] = std::move(m_pData[i]);
-        delete[] m_pData;
-        m_pData = pNewData;
-        m_nMaxSize = nNewMax;
-    }
-    for (INT_PTR i = nNewSize; i < m_nSize; ++i)
-        m_pData[i].Empty();
-    m_nSize = nNewSize;
+    ResizeArray(m_pData, m_nSize, m_nMaxSize, m_nGrowBy, nNewSize);
 }
 
 INT_PTR CStringArray::Add(LPCSTR newElement)

@@ -68,3 +68,23 @@ TEST(CPtrArray, GrowsAndRemoves)
     arr.RemoveAll();
     EXPECT_TRUE(arr.IsEmpty());
 }
+
+TEST(CStringArray, GrowsShrinksAndEmptiesDroppedElements)
+{
+    CStringArray arr;
+    for (int i = 0; i < 30; ++i)
+    {
+        CString s;
+        s.Format("s%d", i);
+        arr.Add(s);
+    }
+    EXPECT_EQ(30, arr.GetSize());
+    EXPECT_STREQ("s29", arr[29]);
+    arr.RemoveAt(0, 10);
+    EXPECT_STREQ("s10", arr[0]);
+    EXPECT_EQ(20, arr.GetSize());
+    arr.SetSize(25);
+    EXPECT_TRUE(arr[24].IsEmpty());
+    arr.SetSize(0);
+    EXPECT_TRUE(arr.IsEmpty());
+}
