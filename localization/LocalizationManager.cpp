@@ -16,12 +16,12 @@ constexpr INT_PTR kBlockSize = 10;
 constexpr UINT kSectionTableSize = 257;
 constexpr UINT kKeyTableSizes[] = {17, 67, 257, 1031, 4099, 16411, 65537, 262147, 1048583};
 
-// The runtime's maps never rehash, so a key map with more than two keys a bucket is moved
-// into a larger one; a lookup then stays a walk of a short chain.
+// The runtime's maps never rehash, so a key map with more keys than buckets is moved into a
+// larger one; a lookup then stays a walk of a short chain.
 CMapStringToPtr* GrowIfCrowded(CMapStringToPtr* keys)
 {
     UINT size = keys->GetHashTableSize();
-    if (keys->GetCount() <= 2 * (INT_PTR)size || size >= kKeyTableSizes[std::size(kKeyTableSizes) - 1])
+    if (keys->GetCount() <= (INT_PTR)size || size >= kKeyTableSizes[std::size(kKeyTableSizes) - 1])
         return keys;
     UINT bigger = size;
     for (UINT candidate : kKeyTableSizes)
