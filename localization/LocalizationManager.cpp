@@ -7,7 +7,8 @@
 
 using kiv::localization::KeyText;
 
-namespace {
+namespace
+{
 
 // Nodes of every cache map are allocated ten at a time.
 constexpr INT_PTR kBlockSize = 10;
@@ -43,7 +44,7 @@ CMapStringToPtr* GrowIfCrowded(CMapStringToPtr* keys)
     return grown;
 }
 
-}  // namespace
+} // namespace
 
 LocalizationManager* LocalizationManager::m_SingletonInstance = nullptr;
 
@@ -118,11 +119,11 @@ TranslationEntry* LocalizationManager::FindTrimmedEntry(LPCSTR key, LPCSTR secti
 {
     void* keys = nullptr;
     void* entry = nullptr;
-    if (m_pTranslationCache == nullptr || !m_pTranslationCache->Lookup(section, keys)
-        || !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
+    if (m_pTranslationCache == nullptr || !m_pTranslationCache->Lookup(section, keys) ||
+        !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
         return nullptr;
     auto* found = static_cast<TranslationEntry*>(entry);
-    found->translatedText.Trim();  // the trimmed text stays in the cache
+    found->translatedText.Trim(); // the trimmed text stays in the cache
     return found;
 }
 
@@ -201,7 +202,7 @@ CStringW LocalizationManager::GetWideTranslation(CString defaultText, CString ke
     if (entry != nullptr && !entry->translatedText.IsEmpty())
         return entry->translatedText;
     if (defaultText.IsEmpty())
-        return CStringW();  // an empty default is never recorded by this overload
+        return CStringW(); // an empty default is never recorded by this overload
     CacheTranslation(defaultText, CStringW(), key, section);
     return CStringW(defaultText);
 }

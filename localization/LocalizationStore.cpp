@@ -7,7 +7,8 @@
 
 using namespace kiv::siblings;
 
-namespace {
+namespace
+{
 
 template <typename Fn> Fn Bind(HINSTANCE library, const char* exportName)
 {
@@ -57,7 +58,7 @@ void StoreEntry(HINSTANCE store, const CString& id, const CString& section, cons
     }
 }
 
-}  // namespace
+} // namespace
 
 int LocalizationManager::IsTranslationMode()
 {
@@ -67,7 +68,7 @@ int LocalizationManager::IsTranslationMode()
     {
         auto read = Bind<IniReaderFn>(util, kIniReaderExport);
         if (read == nullptr)
-            return 0;  // kept: hosts rely on the library staying loaded on this path
+            return 0; // kept: hosts rely on the library staying loaded on this path
         mode = ReadLanguageSetting(read).IsEmpty() ? 0 : 1;
     }
     AfxFreeLibrary(util);
@@ -86,7 +87,7 @@ void LocalizationManager::LoadTranslations()
     }
     auto read = Bind<IniReaderFn>(util, kIniReaderExport);
     if (read == nullptr)
-        return;  // kept: hosts rely on both libraries staying loaded on this path
+        return; // kept: hosts rely on both libraries staying loaded on this path
     CString setting = ReadLanguageSetting(read);
     CString id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
     if (!id.IsEmpty())
@@ -95,7 +96,7 @@ void LocalizationManager::LoadTranslations()
         CStringW** table = getStrings != nullptr ? getStrings(id) : nullptr;
         for (CStringW** record = table; record != nullptr && *record != nullptr; ++record)
         {
-            const CStringW* field = *record;  // default, translation, key, section
+            const CStringW* field = *record; // default, translation, key, section
             CacheTranslation(CString(field[0].GetString(), PreloadLength(field[0])),
                              CStringW(field[1].GetString(), PreloadLength(field[1])),
                              CString(field[2].GetString(), PreloadLength(field[2])),
@@ -118,7 +119,7 @@ void LocalizationManager::StoreTranslations()
     }
     auto read = Bind<IniReaderFn>(util, kIniReaderExport);
     if (read == nullptr)
-        return;  // kept: hosts rely on both libraries staying loaded on this path
+        return; // kept: hosts rely on both libraries staying loaded on this path
     CString setting = ReadLanguageSetting(read);
     CString id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
     if (!id.IsEmpty())

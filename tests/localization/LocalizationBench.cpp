@@ -14,7 +14,8 @@
 #include <unordered_map>
 #include <vector>
 
-namespace {
+namespace
+{
 
 using Clock = std::chrono::steady_clock;
 constexpr int kRuns = 21;
@@ -75,12 +76,13 @@ LocalizationManager* FreshManager()
 struct Key
 {
     CString defaultText, key, section;
-    CStringW wide;  // the translation of a hit
+    CStringW wide; // the translation of a hit
     std::string stdKey, stdSection;
 };
 
 // Stands for a call of the manager that does nothing but take and give its strings.
-__attribute__((noinline)) CStringW PassByValue(CString defaultText, CString key, CString section, const CStringW& result)
+__attribute__((noinline)) CStringW PassByValue(CString defaultText, CString key, CString section,
+                                               const CStringW& result)
 {
     asm volatile("" : : "r"(defaultText.GetString()), "r"(key.GetString()), "r"(section.GetString()));
     return result;
@@ -96,7 +98,9 @@ std::vector<Key> MakeKeys(int sections, int keys, int firstKey)
             key.section.Format("%d", 2001 + s);
             key.key.Format("%d", firstKey + k);
             key.defaultText.Format("Text %d of dialog %d", firstKey + k, 2001 + s);
-            key.wide = L"\x00DC" L"bersetzung " + CStringW(key.defaultText);
+            key.wide = L"\x00DC"
+                       L"bersetzung " +
+                       CStringW(key.defaultText);
             key.stdKey = key.key.GetString();
             key.stdSection = key.section.GetString();
             all.push_back(key);
@@ -130,29 +134,32 @@ std::vector<double> NsPerKeyInTurns(const std::vector<std::function<void()>>& lo
 void CompareLookups(const char* what, LocalizationManager* m, const BareMap& map, const std::vector<Key>& keys)
 {
     size_t sink = 0;
-    std::vector<double> ns = NsPerKeyInTurns(
-        {[&] {
-             for (const Key& k : keys)
-                 sink += m->GetWideTranslation(k.defaultText, k.key, k.section).GetLength();
-         },
-         [&] {
-             for (const Key& k : keys)
-             {
-                 auto section = map.find(k.stdSection);
-                 if (section == map.end())
-                     continue;
-                 auto entry = section->second.find(k.stdKey);
-                 if (entry != section->second.end())
-                     sink += entry->second.size();
-             }
-         },
-         [&] {
-             for (const Key& k : keys)
-                 sink += PassByValue(k.defaultText, k.key, k.section, k.wide).GetLength();
-         }},
-        keys.size());
-    printf("GetWideTranslation %s: %6.1f ns/call; two-level unordered_map %6.1f ns; ratio %.2f\n", what, ns[0],
-           ns[1], ns[0] / ns[1]);
+    std::vector<double> ns =
+        NsPerKeyInTurns({[&]
+                         {
+                             for (const Key& k : keys)
+                                 sink += m->GetWideTranslation(k.defaultText, k.key, k.section).GetLength();
+                         },
+                         [&]
+                         {
+                             for (const Key& k : keys)
+                             {
+                                 auto section = map.find(k.stdSection);
+                                 if (section == map.end())
+                                     continue;
+                                 auto entry = section->second.find(k.stdKey);
+                                 if (entry != section->second.end())
+                                     sink += entry->second.size();
+                             }
+                         },
+                         [&]
+                         {
+                             for (const Key& k : keys)
+                                 sink += PassByValue(k.defaultText, k.key, k.section, k.wide).GetLength();
+                         }},
+                        keys.size());
+    printf("GetWideTranslation %s: %6.1f ns/call; two-level unordered_map %6.1f ns; ratio %.2f\n", what, ns[0], ns[1],
+           ns[0] / ns[1]);
     printf("  of which passing the strings by value: %5.1f ns; the rest against the map: ratio %.2f\n", ns[2],
            (ns[0] - ns[2]) / ns[1]);
     if (sink == 0)
@@ -161,8 +168,8 @@ void CompareLookups(const char* what, LocalizationManager* m, const BareMap& map
 
 void BenchLookups()
 {
-    std::vector<Key> hits = MakeKeys(100, 100, 1000);    // 10,000 translated texts
-    std::vector<Key> misses = MakeKeys(100, 100, 5000);  // 10,000 texts without translation
+    std::vector<Key> hits = MakeKeys(100, 100, 1000);   // 10,000 translated texts
+    std::vector<Key> misses = MakeKeys(100, 100, 5000); // 10,000 texts without translation
     LocalizationManager* m = FreshManager();
     BareMap map;
     for (const Key& k : hits)
@@ -171,7 +178,7 @@ void BenchLookups()
         map[k.stdSection][k.stdKey] = k.wide.GetString();
     }
     for (const Key& k : misses)
-        m->GetWideTranslation(k.defaultText, k.key, k.section);  // recorded once, then asked again
+        m->GetWideTranslation(k.defaultText, k.key, k.section); // recorded once, then asked again
     printf("lookups: 10,000 keys in 100 sections, in random order; a miss is a text asked for\n"
            "again that has no translation\n");
     CompareLookups("hit ", m, map, hits);
@@ -198,9 +205,10 @@ void BenchStartUp(const std::string& control)
         HMODULE store = LoadStore(control, records);
         if (store == nullptr)
             return;
-        FreshManager();  // the store builds its table once while it stays loaded
+        FreshManager(); // the store builds its table once while it stays loaded
         double s = TimeMedian(
-            [] {
+            []
+            {
                 LocalizationManager::Dispose();
                 LocalizationManager::m_SingletonInstance = nullptr;
             },
@@ -218,7 +226,8 @@ void BenchDispose(const std::string& control)
         return;
     std::vector<Key> texts = MakeKeys(100, 100, 1000);
     double s = TimeMedian(
-        [&] {
+        [&]
+        {
             LocalizationManager* m = FreshManager();
             for (const Key& k : texts)
                 m->GetWideTranslation(k.defaultText, k.key, k.section);
@@ -228,7 +237,7 @@ void BenchDispose(const std::string& control)
     ::FreeLibrary(store);
 }
 
-}  // namespace
+} // namespace
 
 int main()
 {
@@ -240,7 +249,7 @@ int main()
     ::SetEnvironmentVariableA("KIV_RECORDING_STORE_LOG", nullptr);
     printf("localization bench, medians of %d runs\n", kRuns);
 
-    WriteText(ini, "[Environment]\r\nLanguageSetting=\r\n");  // lookups alone, no store
+    WriteText(ini, "[Environment]\r\nLanguageSetting=\r\n"); // lookups alone, no store
     BenchLookups();
     WriteText(ini, "[Environment]\r\nLanguageSetting=German\r\n");
     BenchStartUp(control);

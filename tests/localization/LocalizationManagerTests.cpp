@@ -4,7 +4,8 @@
 
 #include "LocalizationKeys.h"
 
-namespace localization_tests {
+namespace localization_tests
+{
 
 using kiv::localization::KeyText;
 
@@ -164,11 +165,16 @@ TEST_F(LocalizationManager, NarrowHitKeepsPercentSigns)
 TEST_F(LocalizationManager, BstrHitIsANewStringOfTheTranslation)
 {
     Manager* m = Manager::Get();
-    m->SetTranslation("Open", L" \x00D6" L"ffnen", "6", "200");
+    m->SetTranslation("Open",
+                      L" \x00D6"
+                      L"ffnen",
+                      "6", "200");
     BSTR text = m->GetBSTRTranlation("Open", "6", "200");
     ASSERT_NE(nullptr, text);
     EXPECT_EQ(6u, ::SysStringLen(text));
-    EXPECT_STREQ(L"\x00D6" L"ffnen", text);
+    EXPECT_STREQ(L"\x00D6"
+                 L"ffnen",
+                 text);
     ::SysFreeString(text);
     EXPECT_EQ(1, CachedEntryCount(m));
 }
@@ -228,7 +234,7 @@ TEST_F(LocalizationManager, AssignmentSharesTheCache)
     EXPECT_STREQ(L"B", other.GetWideTranslation("A", "1", "s"));
     other.SetTranslation("C", L"D", "2", "s");
     EXPECT_STREQ(L"D", m->GetWideTranslation("C", "2", "s"));
-    other.Cache() = own;  // its own cache back, so the shared one is destroyed once
+    other.Cache() = own; // its own cache back, so the shared one is destroyed once
 }
 
 TEST_F(LocalizationManager, SavingDestroysTheCacheOnce)
@@ -259,4 +265,4 @@ TEST_F(LocalizationManager, DisposeWithoutAnInstanceDoesNothing)
     EXPECT_EQ(loaded, LoadedLibraries());
 }
 
-}  // namespace localization_tests
+} // namespace localization_tests

@@ -7,9 +7,11 @@
 
 #include <algorithm>
 
-namespace localization_tests {
+namespace localization_tests
+{
 
-namespace {
+namespace
+{
 
 const char kGerman[] = "language\tGerman\tde\n";
 
@@ -18,7 +20,7 @@ std::vector<std::string> Lines(std::initializer_list<std::string> lines)
     return std::vector<std::string>(lines);
 }
 
-}  // namespace
+} // namespace
 
 TEST_F(LocalizationManager, ExportNamesAreTheDecoratedOnes)
 {
@@ -215,7 +217,7 @@ TEST_F(LocalizationManager, DisposeWalksTheCacheInItsOwnOrder)
 {
     UseLibraries("recording");
     WriteStore(std::string(kGerman) + "string\tde\t100\t1\tEins\nstring\tde\t100\t2\tZwei\n"
-               "string\tde\tSTRINGTABLE\t7\tDatentr\xC3\xA4ger voll\n");
+                                      "string\tde\tSTRINGTABLE\t7\tDatentr\xC3\xA4ger voll\n");
     WriteSetting("German");
     Manager* m = Manager::Get();
     m->SetTranslation("One", L"Eins", "1", "100");
@@ -223,7 +225,10 @@ TEST_F(LocalizationManager, DisposeWalksTheCacheInItsOwnOrder)
     m->GetTranslation("Three", "3", "100");
     m->GetWideTranslation("Disk full", 7, 0);
     m->SetTranslation("Disk full", L"Datentr\x00E4ger voll", "7", "STRINGTABLE");
-    m->SetTranslation("Open", L"\x00D6" L"ffnen", "1005", "2001");
+    m->SetTranslation("Open",
+                      L"\x00D6"
+                      L"ffnen",
+                      "1005", "2001");
     std::vector<std::string> expected = {LogLine({"GetLanguageID", "German"}), LogLine({"GetLanguageStrings", "de"}),
                                          LogLine({"GetLanguageID", "German"})};
     for (const auto& [section, key] : CacheOrder(m))
@@ -237,7 +242,10 @@ TEST_F(LocalizationManager, DisposeWalksTheCacheInItsOwnOrder)
         else if (where == "0/7")
             expected.push_back(LogLine({"InsertLanguageString", "Disk full", "", "de", "0", "7"}));
         else if (where == "2001/1005")
-            expected.push_back(LogLine({"InsertLanguageString", "Open", "\xC3\x96" "ffnen", "de", "2001", "1005"}));
+            expected.push_back(LogLine({"InsertLanguageString", "Open",
+                                        "\xC3\x96"
+                                        "ffnen",
+                                        "de", "2001", "1005"}));
     }
     ASSERT_EQ(6u, CacheOrder(m).size());
     Manager::Dispose();
@@ -264,7 +272,10 @@ TEST_F(LocalizationManager, TranslationsAreWrittenAsCachedUntilALookupTrimsThem)
     WriteSetting("German");
     Manager* m = Manager::Get();
     m->SetTranslation("Cancel", L" Abbrechen ", "2", "100");
-    m->SetTranslation("Close", L" Schlie\x00DF" L"en ", "3", "100");
+    m->SetTranslation("Close",
+                      L" Schlie\x00DF"
+                      L"en ",
+                      "3", "100");
     m->GetWideTranslation("Close", "3", "100");
     Manager::Dispose();
     std::vector<std::string> log = StoreLog();
@@ -272,7 +283,11 @@ TEST_F(LocalizationManager, TranslationsAreWrittenAsCachedUntilALookupTrimsThem)
     std::vector<std::string> inserts = {log[4], log[6]};
     std::sort(inserts.begin(), inserts.end());
     EXPECT_EQ(LogLine({"InsertLanguageString", "Cancel", " Abbrechen ", "de", "100", "2"}), inserts[0]);
-    EXPECT_EQ(LogLine({"InsertLanguageString", "Close", "Schlie\xC3\x9F" "en", "de", "100", "3"}), inserts[1]);
+    EXPECT_EQ(LogLine({"InsertLanguageString", "Close",
+                       "Schlie\xC3\x9F"
+                       "en",
+                       "de", "100", "3"}),
+              inserts[1]);
 }
 
 TEST_F(LocalizationManager, DestructorWritesNothingToTheStore)
@@ -415,4 +430,4 @@ TEST_F(LocalizationManager, IsTranslationModeWithoutTheReaderIsZeroAndKeepsTheLi
     EXPECT_TRUE(IsLoaded("kivutil64.dll"));
 }
 
-}  // namespace localization_tests
+} // namespace localization_tests

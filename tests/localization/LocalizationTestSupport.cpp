@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
-namespace localization_tests {
+namespace localization_tests
+{
 
-namespace {
+namespace
+{
 
 std::string TempFile(const char* prefix)
 {
@@ -45,7 +47,7 @@ CMapStringToPtr* KeysOf(Manager* manager, const char* section)
     return cache != nullptr && cache->Lookup(section, keys) ? static_cast<CMapStringToPtr*>(keys) : nullptr;
 }
 
-}  // namespace
+} // namespace
 
 const TranslationEntry* CachedEntry(Manager* manager, const char* section, const char* key)
 {
@@ -169,7 +171,8 @@ BoxWatcher::~BoxWatcher()
     s_current = nullptr;
 }
 
-namespace {
+namespace
+{
 
 std::wstring TextOf(HWND window)
 {
@@ -195,15 +198,15 @@ BOOL CALLBACK ReadChild(HWND child, LPARAM lParam)
     return TRUE;
 }
 
-}  // namespace
+} // namespace
 
 LRESULT CALLBACK BoxWatcher::Hook(int code, WPARAM wParam, LPARAM lParam)
 {
     HWND window = reinterpret_cast<HWND>(wParam);
     char cls[64] = {};
-    if (code == HCBT_ACTIVATE && s_current != nullptr && ::GetClassNameA(window, cls, sizeof(cls))
-        && strcmp(cls, "#32770") == 0
-        && std::find(s_current->m_seen.begin(), s_current->m_seen.end(), window) == s_current->m_seen.end())
+    if (code == HCBT_ACTIVATE && s_current != nullptr && ::GetClassNameA(window, cls, sizeof(cls)) &&
+        strcmp(cls, "#32770") == 0 &&
+        std::find(s_current->m_seen.begin(), s_current->m_seen.end(), window) == s_current->m_seen.end())
     {
         s_current->m_seen.push_back(window);
         SeenBox box;
@@ -218,4 +221,4 @@ LRESULT CALLBACK BoxWatcher::Hook(int code, WPARAM wParam, LPARAM lParam)
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-}  // namespace localization_tests
+} // namespace localization_tests

@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-namespace localization_tests {
+namespace localization_tests
+{
 
 using Manager = ::LocalizationManager;
 
@@ -67,8 +68,8 @@ struct SeenBox
 {
     std::wstring caption;
     std::wstring text;
-    std::vector<int> buttons;  // control ids of the visible buttons, in Z order
-    bool hasIcon = false;  // an icon static that holds an icon
+    std::vector<int> buttons; // control ids of the visible buttons, in Z order
+    bool hasIcon = false;     // an icon static that holds an icon
     bool owned = false;
 };
 
@@ -88,4 +89,4 @@ private:
     std::vector<HWND> m_seen;
 };
 
-}  // namespace localization_tests
+} // namespace localization_tests

@@ -21,7 +21,8 @@
 #include <unordered_map>
 #include <vector>
 
-namespace {
+namespace
+{
 
 std::wstring FromCodePage(UINT codePage, const char* text, int length)
 {
@@ -83,8 +84,8 @@ std::wstring TripleKey(const std::wstring& id, const std::wstring& section, cons
 // What the control file says, read once per load of the library.
 struct Answers
 {
-    std::unordered_map<std::wstring, std::wstring> languages;  // setting -> id
-    std::unordered_map<std::wstring, std::wstring> strings;    // id, section, key -> text
+    std::unordered_map<std::wstring, std::wstring> languages; // setting -> id
+    std::unordered_map<std::wstring, std::wstring> strings;   // id, section, key -> text
     std::vector<std::array<std::wstring, 4>> records;
     long generated = 0;
     bool emptyTable = false;
@@ -107,8 +108,8 @@ struct Answers
 std::string ReadFile(const std::wstring& path)
 {
     std::string bytes;
-    HANDLE file = ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                OPEN_EXISTING, 0, nullptr);
+    HANDLE file = ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return bytes;
     char buffer[65536];
@@ -171,8 +172,9 @@ public:
             m_opened = true;
             std::wstring path = Variable(L"KIV_RECORDING_STORE_LOG");
             if (!path.empty())
-                m_file = ::CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                       nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+                m_file = ::CreateFileW(path.c_str(), FILE_APPEND_DATA,
+                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr);
         }
         if (m_file == INVALID_HANDLE_VALUE)
             return;
@@ -207,7 +209,10 @@ void BuildTable(const Answers& answers)
     for (long i = 0; i < answers.generated; ++i)
     {
         g_fields.emplace_back((L"Text " + std::to_wstring(i)).c_str());
-        g_fields.emplace_back((L"\x00DC" L"bersetzung " + std::to_wstring(i)).c_str());
+        g_fields.emplace_back((L"\x00DC"
+                               L"bersetzung " +
+                               std::to_wstring(i))
+                                  .c_str());
         g_fields.emplace_back(std::to_wstring(i % 1000).c_str());
         g_fields.emplace_back(std::to_wstring(i / 1000).c_str());
     }
@@ -216,7 +221,7 @@ void BuildTable(const Answers& answers)
     g_table.push_back(nullptr);
 }
 
-}  // namespace
+} // namespace
 
 extern "C" CString RecordingGetLanguageID(const char* languageSetting)
 {
@@ -260,8 +265,8 @@ extern "C" int RecordingInsertLanguageString(const char* defaultText, const wcha
     return 0;
 }
 
-extern "C" int RecordingUpdateLanguageString(const wchar_t* translatedText, const char* languageId,
-                                             const char* section, const char* key)
+extern "C" int RecordingUpdateLanguageString(const wchar_t* translatedText, const char* languageId, const char* section,
+                                             const char* key)
 {
     g_log.Write({L"UpdateLanguageString", translatedText ? translatedText : L"(null)", FromAnsi(languageId),
                  FromAnsi(section), FromAnsi(key)});
