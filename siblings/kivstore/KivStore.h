@@ -1,0 +1,54 @@
+// kivstore64.dll, the language-string store: one gettext PO file per language in the store
+// folder (setting "Store"/"Directory", default "lang" beside the program). Callers load the
+// library by name and look the five functions up under the decorated names below.
+//
+// Narrow arguments are NUL-terminated text in the ANSI code page, wide ones UTF-16. Changes are
+// kept in memory and written when the library is unloaded (or the process ends); each file is
+// replaced whole, through a new file, so it is always the old or the new one.
+#pragma once
+
+#include <afx.h>
+
+// Results of the int functions: 0 is done, anything else says why not.
+enum KivStoreResult
+{
+    kStoreOk = 0,
+    kStoreNotHeld = 1,         // the language has no string for this section and key
+    kStoreUnknownLanguage = 2, // no PO file of that id in the store folder
+    kStoreRefusedText = 3,     // a null section or key, a section with a line feed, U+0004, a lone surrogate
+    kStoreAlreadyHeld = 4,     // insertion of a string the language already has; nothing changed
+    kStoreSetAside = 5,        // the language's file cannot be read; the change went to its side file
+};
+
+// The id (PO file name without extension) of the language that the setting names: the id
+// itself or a name in the file's header field "X-Language-Names", in any case. Empty when unknown.
+CString GetLanguageID(const char* languageSetting);
+// A null-terminated table of records of four strings (default text, translation, key, section);
+// null for an unknown language. The store owns the table until the library is unloaded.
+CStringW** GetLanguageStrings(const char* languageId);
+// kStoreOk and the translation in *text when the language holds the section and key (an entry
+// with an empty translation is held, with an empty text); non-zero otherwise.
+int GetLanguageString(const char* languageId, const char* section, const char* key, CStringW* text);
+// Adds an entry after the existing ones; a held section and key is left as it is.
+int InsertLanguageString(const char* defaultText, const wchar_t* translatedText, const char* languageId,
+                         const char* section, const char* key);
+// Replaces the translation of a held entry in its place.
+int UpdateLanguageString(const wchar_t* translatedText, const char* languageId, const char* section, const char* key);
+
+typedef CString (*KivGetLanguageIDProc)(const char*);
+typedef CStringW** (*KivGetLanguageStringsProc)(const char*);
+typedef int (*KivGetLanguageStringProc)(const char*, const char*, const char*, CStringW*);
+typedef int (*KivInsertLanguageStringProc)(const char*, const wchar_t*, const char*, const char*, const char*);
+typedef int (*KivUpdateLanguageStringProc)(const wchar_t*, const char*, const char*, const char*);
+
+constexpr char kKivStoreLibrary[] = "kivstore64.dll";
+
+// The names callers request, in the short decoration ("PBD", "PBG", "PAV").
+constexpr char kGetLanguageIDExport[] =
+    "?GetLanguageID@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@PBD@Z";
+constexpr char kGetLanguageStringsExport[] =
+    "?GetLanguageStrings@@YAPAPAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@PBD@Z";
+constexpr char kGetLanguageStringExport[] =
+    "?GetLanguageString@@YAHPBD00PAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@@Z";
+constexpr char kInsertLanguageStringExport[] = "?InsertLanguageString@@YAHPBDPBG000@Z";
+constexpr char kUpdateLanguageStringExport[] = "?UpdateLanguageString@@YAHPBGPBD11@Z";

@@ -1,0 +1,290 @@
+#include "LanguageStore.h"
+
+#include "StoreFiles.h"
+#include "StringBlock.h"
+#include "TextConversion.h"
+
+#include <cstdio>
+
+using kiv::rules::PoCatalog;
+using kiv::rules::PoChange;
+using kiv::rules::PoEntry;
+using kiv::rules::PoRecord;
+using kiv::rules::WithoutByteOrderMark;
+
+namespace
+{
+
+constexpr char kSideFileSuffix[] = ".pending";
+constexpr std::size_t kHeaderReadLimit = 64 * 1024;
+
+} // namespace
+
+// One call's table of records: four strings per record, and the slots pointing at them. The
+// strings go before their block, which then sees whether a copy outlives them.
+struct LanguageStore::RecordTable
+{
+    StringBlock block;
+    std::unique_ptr<CStringW[]> strings;
+    std::vector<CStringW*> slots;
+};
+
+std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::vector<PoRecord>& records)
+{
+    auto table = std::make_unique<RecordTable>();
+    table->strings.reset(new CStringW[records.size() * 4]);
+    table->slots.assign(records.size() + 1, nullptr);
+    for (std::size_t i = 0; i < records.size(); ++i)
+    {
+        CStringW* record = &table->strings[i * 4];
+        table->block.Assign(record[0], records[i].defaultText);
+        table->block.Assign(record[1], records[i].translation);
+        table->block.Assign(record[2], records[i].key);
+        // Records of one section mostly follow each other and share its string.
+        if (i > 0 && records[i].section == records[i - 1].section)
+            record[3] = table->slots[i - 1][3];
+        else
+            table->block.Assign(record[3], records[i].section);
+        table->slots[i] = record;
+    }
+    return table;
+}
+
+struct LanguageStore::Language
+{
+    std::string id; // the file name without extension, as the folder spells it
+    std::string path;
+    bool loaded = false;
+    bool readable = false;
+    PoCatalog catalog;
+    // Changes since loading, kept so that they can be made again on a copy another program wrote meanwhile.
+    std::vector<PoChange> changes;
+    bool sideFileMerged = false;
+    std::string mergedSideFile; // its bytes, so that it is removed only if nobody added to it since
+    std::vector<std::unique_ptr<RecordTable>> tables; // every table handed out stays valid until unloading
+    bool tableCurrent = false;
+};
+
+LanguageStore::LanguageStore(std::string folder) : m_folder(std::move(folder))
+{
+    for (const std::string& name : ListPoFiles(m_folder))
+    {
+        auto language = std::make_unique<Language>();
+        language->path = m_folder + name;
+        language->id = name.substr(0, name.size() - (sizeof(kPoExtension) - 1));
+        m_languages.push_back(std::move(language));
+    }
+}
+
+LanguageStore::~LanguageStore() = default;
+
+bool LanguageStore::Knows(const char* id)
+{
+    return Find(id) != nullptr;
+}
+
+CString LanguageStore::LanguageId(const CStringW& setting)
+{
+    CStringW wanted = setting;
+    wanted.Trim();
+    if (wanted.IsEmpty())
+        return CString();
+    for (auto& language : m_languages)
+        if (EqualIgnoringCase(AnsiToWide(language->id.c_str()), wanted))
+            return CString(language->id.c_str());
+    for (auto& language : m_languages)
+        for (const std::string& name : NamesOf(*language))
+        {
+            CStringW wide;
+            AssignUtf8(wide, name);
+            if (EqualIgnoringCase(wide, wanted))
+                return CString(language->id.c_str());
+        }
+    return CString();
+}
+
+CStringW** LanguageStore::Strings(const char* id)
+{
+    Language* language = Loaded(id);
+    if (!language)
+        return nullptr;
+    if (!language->tableCurrent)
+    {
+        language->tables.push_back(
+            MakeTable(language->readable ? language->catalog.Records() : std::vector<PoRecord>()));
+        language->tableCurrent = true;
+    }
+    return language->tables.back()->slots.data();
+}
+
+int LanguageStore::Get(const char* id, const std::string& context, CStringW* text)
+{
+    Language* language = Loaded(id);
+    if (!language)
+        return kStoreUnknownLanguage;
+    // A file that cannot be read holds nothing; its strings are asked for and set aside again.
+    const PoEntry* entry = language->readable ? language->catalog.Find(context) : nullptr;
+    if (!entry)
+        return kStoreNotHeld;
+    if (!text)
+        return kStoreRefusedText;
+    AssignUtf8(*text, entry->msgstr);
+    return kStoreOk;
+}
+
+int LanguageStore::Insert(const char* id, const std::string& context, const std::string& msgid,
+                          const std::string& msgstr)
+{
+    Language* language = Loaded(id);
+    if (!language)
+        return kStoreUnknownLanguage;
+    PoChange change{PoChange::kInsert, context, msgid, msgstr};
+    if (!language->readable)
+    {
+        language->changes.push_back(std::move(change));
+        return kStoreSetAside;
+    }
+    if (language->catalog.Insert(context, msgid, msgstr) == PoCatalog::kAlreadyHeld)
+        return kStoreAlreadyHeld;
+    language->changes.push_back(std::move(change));
+    language->tableCurrent = false;
+    return kStoreOk;
+}
+
+int LanguageStore::Update(const char* id, const std::string& context, const std::string& msgstr)
+{
+    Language* language = Loaded(id);
+    if (!language)
+        return kStoreUnknownLanguage;
+    PoChange change{PoChange::kUpdate, context, std::string(), msgstr};
+    if (!language->readable)
+    {
+        language->changes.push_back(std::move(change));
+        return kStoreSetAside;
+    }
+    PoCatalog::Result result = language->catalog.Update(context, msgstr);
+    if (result == PoCatalog::kNotHeld)
+        return kStoreNotHeld;
+    if (result == PoCatalog::kDone)
+    {
+        language->changes.push_back(std::move(change));
+        language->tableCurrent = false;
+    }
+    return kStoreOk;
+}
+
+void LanguageStore::Flush()
+{
+    for (auto& language : m_languages)
+        if (language->loaded && (!language->changes.empty() || language->sideFileMerged))
+            FlushLanguage(*language);
+}
+
+LanguageStore::Language* LanguageStore::Find(const char* id)
+{
+    if (!id || !*id)
+        return nullptr;
+    for (auto& language : m_languages)
+        if (::lstrcmpiA(language->id.c_str(), id) == 0)
+            return language.get();
+    return nullptr;
+}
+
+LanguageStore::Language* LanguageStore::Loaded(const char* id)
+{
+    Language* language = Find(id);
+    if (language && !language->loaded)
+        Load(*language);
+    return language;
+}
+
+void LanguageStore::Load(Language& language)
+{
+    language.loaded = true;
+    std::string bytes;
+    language.readable = ReadWholeFile(language.path, bytes) && language.catalog.Load(std::move(bytes));
+    std::string side;
+    PoCatalog kept;
+    if (!language.readable || !ReadWholeFile(language.path + kSideFileSuffix, side) || !kept.Load(side))
+        return;
+    // Changes set aside while the file could not be used join it now that it can.
+    for (PoChange& change : kept.KeptChanges())
+    {
+        language.catalog.Apply(change);
+        language.changes.push_back(std::move(change));
+    }
+    language.sideFileMerged = true;
+    language.mergedSideFile = std::move(side);
+}
+
+std::vector<std::string> LanguageStore::NamesOf(Language& language)
+{
+    if (language.loaded && language.readable)
+        return language.catalog.LanguageNames();
+    // Only the header is read: naming a language must not cost reading all of its strings.
+    std::string bytes, header;
+    if (!ReadWholeFile(language.path, bytes, kHeaderReadLimit) || !kiv::rules::ParsePoHeader(bytes, header))
+        return {};
+    return kiv::rules::HeaderLanguageNames(header);
+}
+
+void LanguageStore::FlushLanguage(Language& language)
+{
+    if (!language.readable)
+    {
+        SetAside(language);
+        return;
+    }
+    PoCatalog* target = &language.catalog;
+    PoCatalog fresh;
+    std::string current;
+    bool read = ReadWholeFile(language.path, current);
+    // Another program wrote the file since it was read: the changes are made again on its copy.
+    if (!read || WithoutByteOrderMark(current) != language.catalog.File().Text())
+    {
+        if (!read || !fresh.Load(current))
+        {
+            SetAside(language);
+            return;
+        }
+        for (const PoChange& change : language.changes)
+            fresh.Apply(change);
+        target = &fresh;
+    }
+    if (target->IsChanged() && !ReplaceWholeFile(m_folder, language.path, target->Save(HeaderInfo(language))))
+    {
+        SetAside(language);
+        return;
+    }
+    std::string sidePath = language.path + kSideFileSuffix, side;
+    if (language.sideFileMerged && ReadWholeFile(sidePath, side) && side == language.mergedSideFile)
+        ::DeleteFileA(sidePath.c_str());
+    language.sideFileMerged = false;
+    language.changes.clear();
+}
+
+bool LanguageStore::SetAside(Language& language)
+{
+    std::string sidePath = language.path + kSideFileSuffix, side;
+    PoCatalog kept;
+    // A side file that cannot be read is somebody's work too, and is not overwritten either.
+    if (ReadWholeFile(sidePath, side) && !kept.Load(side))
+        return false;
+    for (const PoChange& change : language.changes)
+        kept.Keep(change);
+    language.sideFileMerged = false;
+    if (!ReplaceWholeFile(m_folder, sidePath, kept.Save(HeaderInfo(language))))
+        return false;
+    language.changes.clear();
+    return true;
+}
+
+kiv::rules::PoHeaderInfo LanguageStore::HeaderInfo(const Language& language) const
+{
+    SYSTEMTIME now;
+    ::GetSystemTime(&now);
+    char date[32];
+    std::snprintf(date, sizeof(date), "%04u-%02u-%02u %02u:%02u+0000", now.wYear, now.wMonth, now.wDay, now.wHour,
+                  now.wMinute);
+    return {AnsiToUtf8(language.id.c_str()), date};
+}

@@ -1,0 +1,49 @@
+// The store behind the exported functions: the languages of one folder, each read on first use,
+// changed in memory and written back by Flush.
+#pragma once
+
+#include "KivStore.h"
+#include "PoCatalog.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class LanguageStore
+{
+public:
+    // folder ends with a path separator.
+    explicit LanguageStore(std::string folder);
+    ~LanguageStore();
+    LanguageStore(const LanguageStore&) = delete;
+    LanguageStore& operator=(const LanguageStore&) = delete;
+
+    // Attributes
+    bool Knows(const char* id);
+
+    // Operations; contexts and texts are UTF-8, ids are file names in the ANSI code page.
+    CString LanguageId(const CStringW& setting);
+    CStringW** Strings(const char* id);
+    int Get(const char* id, const std::string& context, CStringW* text);
+    int Insert(const char* id, const std::string& context, const std::string& msgid, const std::string& msgstr);
+    int Update(const char* id, const std::string& context, const std::string& msgstr);
+    // Writes every language that changed. A file that cannot be read or replaced is left alone
+    // and the changes go to its side file, "<id>.po.pending", itself a PO file.
+    void Flush();
+
+private:
+    struct RecordTable;
+    struct Language;
+
+    static std::unique_ptr<RecordTable> MakeTable(const std::vector<kiv::rules::PoRecord>& records);
+    Language* Find(const char* id);
+    Language* Loaded(const char* id);
+    void Load(Language& language);
+    std::vector<std::string> NamesOf(Language& language);
+    void FlushLanguage(Language& language);
+    bool SetAside(Language& language);
+    kiv::rules::PoHeaderInfo HeaderInfo(const Language& language) const;
+
+    std::string m_folder;
+    std::vector<std::unique_ptr<Language>> m_languages;
+};

@@ -1,0 +1,136 @@
+// Timings of the store as a host's localization uses it: reading a language at start-up, and
+// saving the texts of a run when the library is released. Prints medians.
+#include <afxwin.h>
+
+#include "KivStore.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+constexpr int kRuns = 7;
+
+struct Store
+{
+    HMODULE library = ::LoadLibraryA(kKivStoreLibrary);
+    template <typename Proc> Proc Get(const char* name)
+    {
+        return reinterpret_cast<Proc>(::GetProcAddress(library, name));
+    }
+    ~Store() { ::FreeLibrary(library); }
+};
+
+double Now()
+{
+    LARGE_INTEGER counter, frequency;
+    ::QueryPerformanceCounter(&counter);
+    ::QueryPerformanceFrequency(&frequency);
+    return 1000.0 * (double)counter.QuadPart / (double)frequency.QuadPart;
+}
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void WriteLanguage(const std::string& path, int records)
+{
+    std::string text = "msgid \"\"\nmsgstr \"\"\n\"Language: de\\n\"\n\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+                       "\"X-Language-Names: German\\n\"\n";
+    char entry[256];
+    for (int i = 0; i < records; ++i)
+    {
+        std::snprintf(entry, sizeof(entry),
+                      "\nmsgctxt \"%d\\n%d\"\nmsgid \"Default text number %d\"\nmsgstr \"\xC3\x9C"
+                      "bersetzung %d\"\n",
+                      2000 + i / 50, 1000 + i % 50, i, i);
+        text += entry;
+    }
+    HANDLE file = ::CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    ::WriteFile(file, text.data(), (DWORD)text.size(), &written, nullptr);
+    ::CloseHandle(file);
+}
+
+// Load, name the language, take its table and walk it, release.
+double StartUp()
+{
+    double start = Now();
+    Store store;
+    CString id = store.Get<KivGetLanguageIDProc>(kGetLanguageIDExport)("German");
+    CStringW** table = store.Get<KivGetLanguageStringsProc>(kGetLanguageStringsExport)(id);
+    int length = 0;
+    for (CStringW** record = table; record && *record; ++record)
+        length += (*record)[1].GetLength();
+    double end = Now();
+    return length > 0 ? end - start : -1;
+}
+
+// Load, then for each text ask for it and insert it, release (which writes the file).
+double SaveNewTexts(int texts)
+{
+    double start = Now();
+    {
+        Store store;
+        auto get = store.Get<KivGetLanguageStringProc>(kGetLanguageStringExport);
+        auto insert = store.Get<KivInsertLanguageStringProc>(kInsertLanguageStringExport);
+        char section[16], key[16], text[64];
+        for (int i = 0; i < texts; ++i)
+        {
+            std::snprintf(section, sizeof(section), "%d", 9000 + i / 50);
+            std::snprintf(key, sizeof(key), "%d", i % 50);
+            std::snprintf(text, sizeof(text), "New text %d", i);
+            CStringW stored;
+            if (get("de", section, key, &stored) != kStoreOk)
+                insert(text, L"", "de", section, key);
+        }
+    }
+    return Now() - start;
+}
+
+} // namespace
+
+int main()
+{
+    char temp[MAX_PATH];
+    ::GetTempPathA(MAX_PATH, temp);
+    std::string folder = std::string(temp) + "kivstore-bench\\";
+    ::CreateDirectoryA(folder.c_str(), nullptr);
+    std::string ini = folder + "kiv.ini";
+    std::string settings = "[Store]\r\nDirectory=" + folder + "\r\n";
+    HANDLE file = ::CreateFileA(ini.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    ::WriteFile(file, settings.data(), (DWORD)settings.size(), &written, nullptr);
+    ::CloseHandle(file);
+    ::SetEnvironmentVariableA("KIV_INI", ini.c_str());
+    std::string language = folder + "de.po";
+
+    for (int records : {1000, 10000, 100000})
+    {
+        WriteLanguage(language, records);
+        std::vector<double> times;
+        for (int run = 0; run < kRuns; ++run)
+            times.push_back(StartUp());
+        std::printf("store start-up, %6d records: %8.2f ms (median of %d)\n", records, Median(times), kRuns);
+    }
+    for (int existing : {0, 100000})
+    {
+        std::vector<double> times;
+        for (int run = 0; run < kRuns; ++run)
+        {
+            WriteLanguage(language, existing);
+            times.push_back(SaveNewTexts(10000));
+        }
+        std::printf("10000 new texts saved, %6d records before: %8.2f ms (median of %d)\n", existing, Median(times),
+                    kRuns);
+    }
+    ::DeleteFileA(language.c_str());
+    ::DeleteFileA(ini.c_str());
+    ::RemoveDirectoryA(folder.c_str());
+    return 0;
+}
