@@ -40,6 +40,16 @@ std::string ReadBytes(const std::string& path)
     return bytes;
 }
 
+// A folder beside the folder of the test program, with a trailing separator.
+std::string BesideProgramFolder(const std::string& name)
+{
+    char exe[MAX_PATH];
+    DWORD n = ::GetModuleFileNameA(nullptr, exe, MAX_PATH);
+    std::string dir(exe, n);
+    dir = dir.substr(0, dir.rfind('\\'));
+    return dir.substr(0, dir.rfind('\\') + 1) + name + "\\";
+}
+
 CMapStringToPtr* KeysOf(Manager* manager, const char* section)
 {
     void* keys = nullptr;
@@ -119,11 +129,7 @@ void LocalizationManager::TearDown()
 
 void LocalizationManager::UseLibraries(const char* arrangement)
 {
-    char exe[MAX_PATH];
-    DWORD n = ::GetModuleFileNameA(nullptr, exe, MAX_PATH);
-    std::string dir(exe, n);
-    dir = dir.substr(0, dir.rfind('\\'));
-    dir = dir.substr(0, dir.rfind('\\') + 1) + "stores\\" + arrangement;
+    std::string dir = BesideProgramFolder("stores") + arrangement;
     ASSERT_NE(INVALID_FILE_ATTRIBUTES, ::GetFileAttributesA(dir.c_str())) << dir;
     ASSERT_TRUE(::SetDllDirectoryA(dir.c_str()));
 }
@@ -136,12 +142,33 @@ void LocalizationManager::UseRecordingStore()
 
 void LocalizationManager::WriteSetting(const char* value)
 {
-    WriteBytes(m_ini, std::string("[Environment]\r\nLanguageSetting=") + value + "\r\n");
+    WriteSettings(std::string("[Environment]\r\nLanguageSetting=") + value + "\r\n");
+}
+
+void LocalizationManager::WriteSettings(const std::string& text)
+{
+    WriteBytes(m_ini, text);
 }
 
 void LocalizationManager::WriteStore(const std::string& control)
 {
     WriteBytes(m_control, control);
+}
+
+void LocalizationManager::UseRealStore(const std::string& languageFile)
+{
+    UseLibraries("real");
+    std::string files = BesideProgramFolder("store-files");
+    ::CreateDirectoryA(files.c_str(), nullptr);
+    m_storeFolder = files + testing::UnitTest::GetInstance()->current_test_info()->name() + "\\";
+    ::CreateDirectoryA(m_storeFolder.c_str(), nullptr);
+    WriteBytes(m_storeFolder + "de.po", languageFile);
+    WriteSettings("[Environment]\r\nLanguageSetting=Deutsch\r\n[Store]\r\nDirectory=" + m_storeFolder + "\r\n");
+}
+
+std::string LocalizationManager::LanguageFile()
+{
+    return ReadBytes(m_storeFolder + "de.po");
 }
 
 std::vector<std::string> LocalizationManager::StoreLog()

@@ -50,17 +50,24 @@ protected:
     void UseLibraries(const char* arrangement);
     // The recording store and the setting reader, with German known to the store as "de".
     void UseRecordingStore();
-    // Writes the setting Environment/LanguageSetting.
+    // Writes the setting Environment/LanguageSetting, or the whole settings file.
     void WriteSetting(const char* value);
+    void WriteSettings(const std::string& text);
     // The recording store's answers, lines of its control file (UTF-8).
     void WriteStore(const std::string& control);
     // The recording store's calls so far, one line each (UTF-8).
     std::vector<std::string> StoreLog();
 
+    // The real store and the setting reader, with a store folder of the test's own,
+    // store-files/<test>/ beside the program's folder, holding de.po; the setting names the
+    // language by one of the names in the file's header.
+    void UseRealStore(const std::string& languageFile);
+    std::string LanguageFile();
+
     static bool IsLoaded(const char* library) { return ::GetModuleHandleA(library) != nullptr; }
     static long LoadedLibraries() { return AfxGetModuleState()->m_nLoadedLibraries; }
 
-    std::string m_ini, m_control, m_log;
+    std::string m_ini, m_control, m_log, m_storeFolder;
 };
 
 // What a message box showed: read from the real box when it is activated, then closed.
