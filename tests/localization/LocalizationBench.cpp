@@ -237,6 +237,75 @@ void BenchDispose(const std::string& control)
     ::FreeLibrary(store);
 }
 
+// A language file of generated entries for the real store, in the store's own format.
+std::string LanguageFile(int records)
+{
+    std::string text = "msgid \"\"\nmsgstr \"\"\n\"MIME-Version: 1.0\\n\"\n"
+                       "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+                       "\"Content-Transfer-Encoding: 8bit\\n\"\n\"Language: de\\n\"\n"
+                       "\"X-Language-Names: German\\n\"\n";
+    for (int i = 0; i < records; ++i)
+    {
+        std::string n = std::to_string(i);
+        text += "\nmsgctxt \"" + std::to_string(2001 + i / 1000) + "\\n" + std::to_string(i % 1000) +
+                "\"\nmsgid \"Text " + n +
+                "\"\nmsgstr \"\xC3\x9C"
+                "bersetzung " +
+                n + "\"\n";
+    }
+    return text;
+}
+
+void RemoveFolder(const std::string& folder)
+{
+    WIN32_FIND_DATAA found;
+    HANDLE find = ::FindFirstFileA((folder + "*").c_str(), &found);
+    if (find != INVALID_HANDLE_VALUE)
+    {
+        do
+            ::DeleteFileA((folder + found.cFileName).c_str());
+        while (::FindNextFileA(find, &found));
+        ::FindClose(find);
+    }
+    ::RemoveDirectoryA(folder.c_str());
+}
+
+// The same with the real store beside the benchmark, over a PO file in a folder of its own:
+// start-up includes loading the store and reading its file, Dispose its writing the file.
+void BenchRealStore(const std::string& ini)
+{
+    if (::GetFileAttributesA(BesideExe("kivstore64.dll").c_str()) == INVALID_FILE_ATTRIBUTES)
+    {
+        printf("no real store beside the benchmark\n");
+        return;
+    }
+    std::string folder = TempFile("kst");
+    ::DeleteFileA(folder.c_str());
+    folder += "\\";
+    ::CreateDirectoryA(folder.c_str(), nullptr);
+    std::string file = folder + "de.po";
+    WriteText(ini, "[Environment]\r\nLanguageSetting=German\r\n[Store]\r\nDirectory=" + folder + "\r\n");
+    for (int records : {1000, 10000, 100000})
+    {
+        WriteText(file, LanguageFile(records));
+        double s = TimeMedian([] { LocalizationManager::m_SingletonInstance = nullptr; },
+                              [] { LocalizationManager::Get(); }, kStartUpRuns);
+        printf("real store: start-up with %6d records in the file: %8.2f ms\n", records, s * 1e3);
+    }
+    std::vector<Key> texts = MakeKeys(100, 100, 1000);
+    double s = TimeMedian(
+        [&]
+        {
+            WriteText(file, LanguageFile(0));
+            LocalizationManager* m = FreshManager();
+            for (const Key& k : texts)
+                m->GetWideTranslation(k.defaultText, k.key, k.section);
+        },
+        [] { LocalizationManager::Dispose(); }, kStartUpRuns);
+    printf("real store: Dispose writing %d new texts: %8.2f ms\n", (int)texts.size(), s * 1e3);
+    RemoveFolder(folder);
+}
+
 } // namespace
 
 int main()
@@ -254,6 +323,7 @@ int main()
     WriteText(ini, "[Environment]\r\nLanguageSetting=German\r\n");
     BenchStartUp(control);
     BenchDispose(control);
+    BenchRealStore(ini);
 
     ::DeleteFileA(ini.c_str());
     ::DeleteFileA(control.c_str());

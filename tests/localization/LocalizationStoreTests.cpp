@@ -95,6 +95,22 @@ TEST_F(LocalizationManager, StoreRecordIsPreloadedOneUnitPerField)
     EXPECT_STREQ(L"Hello", m->GetWideTranslation("Hello", "10", "200"));
 }
 
+TEST_F(LocalizationManager, StoreRecordUnitsOutsideAsciiAreConvertedOneByOne)
+{
+    UseLibraries("recording");
+    WriteStore(std::string(kGerman) + "record\t\xC3\x9C"
+                                      "bersicht\t\xC3\x96"
+                                      "ffnen\t\xC3\xA4"
+                                      "1\t\xE6\x97\xA5\xE6\x9C\xAC\n");
+    WriteSetting("German");
+    Manager* m = Manager::Get();
+    EXPECT_EQ(1, CachedEntryCount(m));
+    const TranslationEntry* entry = CachedEntry(m, "?", "\xE4");
+    ASSERT_NE(nullptr, entry);
+    EXPECT_STREQ("\xDC", entry->defaultText);
+    EXPECT_STREQ(L"\x00D6", entry->translatedText);
+}
+
 TEST_F(LocalizationManager, PreloadKeepsTableOrderSoLaterRecordsWin)
 {
     UseLibraries("recording");
