@@ -4,7 +4,8 @@
 
 #include <afx.h>
 
-namespace kiv::siblings {
+namespace kiv::siblings
+{
 
 inline constexpr char kUtilLibrary[] = "kivutil64.dll";
 inline constexpr char kStoreLibrary[] = "kivstore64.dll";
@@ -19,10 +20,8 @@ inline constexpr char kGetLanguageStringsExport[] =
     "?GetLanguageStrings@@YAPAPAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@PBD@Z";
 inline constexpr char kGetLanguageStringExport[] =
     "?GetLanguageString@@YAHPBD00PAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@@Z";
-inline constexpr char kInsertLanguageStringExport[] =
-    "?InsertLanguageString@@YAHPBDPBG000@Z";
-inline constexpr char kUpdateLanguageStringExport[] =
-    "?UpdateLanguageString@@YAHPBGPBD11@Z";
+inline constexpr char kInsertLanguageStringExport[] = "?InsertLanguageString@@YAHPBDPBG000@Z";
+inline constexpr char kUpdateLanguageStringExport[] = "?UpdateLanguageString@@YAHPBGPBD11@Z";
 
 typedef CString (*IniReaderFn)(const char* section, const char* key, const char* defaultText);
 typedef CString (*GetLanguageIDFn)(const char* languageSetting);
@@ -36,4 +35,4 @@ typedef int (*InsertLanguageStringFn)(const char* defaultText, const wchar_t* tr
 typedef int (*UpdateLanguageStringFn)(const wchar_t* translatedText, const char* languageId, const char* section,
                                       const char* key);
 
-}  // namespace kiv::siblings
+} // namespace kiv::siblings

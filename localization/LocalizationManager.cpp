@@ -7,7 +7,8 @@
 
 using kiv::localization::KeyText;
 
-namespace {
+namespace
+{
 
 // Nodes of every cache map are allocated ten at a time.
 constexpr INT_PTR kBlockSize = 10;
@@ -16,12 +17,12 @@ constexpr INT_PTR kBlockSize = 10;
 constexpr UINT kSectionTableSize = 257;
 constexpr UINT kKeyTableSizes[] = {17, 67, 257, 1031, 4099, 16411, 65537, 262147, 1048583};
 
-// The runtime's maps never rehash, so a key map with more than two keys a bucket is moved
-// into a larger one; a lookup then stays a walk of a short chain.
+// The runtime's maps never rehash, so a key map with more keys than buckets is moved into a
+// larger one; a lookup then stays a walk of a short chain.
 CMapStringToPtr* GrowIfCrowded(CMapStringToPtr* keys)
 {
     UINT size = keys->GetHashTableSize();
-    if (keys->GetCount() <= 2 * (INT_PTR)size || size >= kKeyTableSizes[std::size(kKeyTableSizes) - 1])
+    if (keys->GetCount() <= (INT_PTR)size || size >= kKeyTableSizes[std::size(kKeyTableSizes) - 1])
         return keys;
     UINT bigger = size;
     for (UINT candidate : kKeyTableSizes)
@@ -43,7 +44,7 @@ CMapStringToPtr* GrowIfCrowded(CMapStringToPtr* keys)
     return grown;
 }
 
-}  // namespace
+} // namespace
 
 LocalizationManager* LocalizationManager::m_SingletonInstance = nullptr;
 
@@ -118,11 +119,11 @@ TranslationEntry* LocalizationManager::FindTrimmedEntry(LPCSTR key, LPCSTR secti
 {
     void* keys = nullptr;
     void* entry = nullptr;
-    if (m_pTranslationCache == nullptr || !m_pTranslationCache->Lookup(section, keys)
-        || !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
+    if (m_pTranslationCache == nullptr || !m_pTranslationCache->Lookup(section, keys) ||
+        !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
         return nullptr;
     auto* found = static_cast<TranslationEntry*>(entry);
-    found->translatedText.Trim();  // the trimmed text stays in the cache
+    found->translatedText.Trim(); // the trimmed text stays in the cache
     return found;
 }
 
@@ -201,7 +202,7 @@ CStringW LocalizationManager::GetWideTranslation(CString defaultText, CString ke
     if (entry != nullptr && !entry->translatedText.IsEmpty())
         return entry->translatedText;
     if (defaultText.IsEmpty())
-        return CStringW();  // an empty default is never recorded by this overload
+        return CStringW(); // an empty default is never recorded by this overload
     CacheTranslation(defaultText, CStringW(), key, section);
     return CStringW(defaultText);
 }

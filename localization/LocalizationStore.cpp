@@ -7,7 +7,8 @@
 
 using namespace kiv::siblings;
 
-namespace {
+namespace
+{
 
 template <typename Fn> Fn Bind(HINSTANCE library, const char* exportName)
 {
@@ -27,12 +28,39 @@ CString LanguageIdOf(HINSTANCE store, const CString& setting)
     return getId != nullptr ? getId(setting) : CString();
 }
 
-// Units taken from a field of a store record at start-up: only its first one, kept as
-// hosts have always seen it. An empty field stays empty.
-int PreloadLength(const CStringW& field)
+// The strings made from a store record at start-up: only the first unit of each field, kept
+// as hosts have always seen it; an empty field stays empty. ASCII units convert to themselves
+// in every ANSI code page, so their strings are made once per load and then shared.
+class PreloadStrings
 {
-    return field.IsEmpty() ? 0 : 1;
-}
+public:
+    CString Narrow(const CStringW& field)
+    {
+        if (field.IsEmpty())
+            return CString();
+        wchar_t unit = field[0];
+        if (unit >= 0x80)
+            return CString(field.GetString(), 1);
+        if (m_narrow[unit].IsEmpty())
+            m_narrow[unit] = CString((char)unit, 1);
+        return m_narrow[unit];
+    }
+    CStringW Wide(const CStringW& field)
+    {
+        if (field.IsEmpty())
+            return CStringW();
+        wchar_t unit = field[0];
+        if (unit >= 0x80)
+            return CStringW(unit, 1);
+        if (m_wide[unit].IsEmpty())
+            m_wide[unit] = CStringW(unit, 1);
+        return m_wide[unit];
+    }
+
+private:
+    CString m_narrow[0x80];
+    CStringW m_wide[0x80];
+};
 
 // One cached entry against the store: an insertion when the store lacks it, an update
 // when the store's text differs, nothing when they are equal.
@@ -57,7 +85,7 @@ void StoreEntry(HINSTANCE store, const CString& id, const CString& section, cons
     }
 }
 
-}  // namespace
+} // namespace
 
 int LocalizationManager::IsTranslationMode()
 {
@@ -67,7 +95,7 @@ int LocalizationManager::IsTranslationMode()
     {
         auto read = Bind<IniReaderFn>(util, kIniReaderExport);
         if (read == nullptr)
-            return 0;  // kept: hosts rely on the library staying loaded on this path
+            return 0; // kept: hosts rely on the library staying loaded on this path
         mode = ReadLanguageSetting(read).IsEmpty() ? 0 : 1;
     }
     AfxFreeLibrary(util);
@@ -86,20 +114,18 @@ void LocalizationManager::LoadTranslations()
     }
     auto read = Bind<IniReaderFn>(util, kIniReaderExport);
     if (read == nullptr)
-        return;  // kept: hosts rely on both libraries staying loaded on this path
+        return; // kept: hosts rely on both libraries staying loaded on this path
     CString setting = ReadLanguageSetting(read);
     CString id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
     if (!id.IsEmpty())
     {
         auto getStrings = Bind<GetLanguageStringsFn>(store, kGetLanguageStringsExport);
         CStringW** table = getStrings != nullptr ? getStrings(id) : nullptr;
+        PreloadStrings one;
         for (CStringW** record = table; record != nullptr && *record != nullptr; ++record)
         {
-            const CStringW* field = *record;  // default, translation, key, section
-            CacheTranslation(CString(field[0].GetString(), PreloadLength(field[0])),
-                             CStringW(field[1].GetString(), PreloadLength(field[1])),
-                             CString(field[2].GetString(), PreloadLength(field[2])),
-                             CString(field[3].GetString(), PreloadLength(field[3])));
+            const CStringW* field = *record; // default, translation, key, section
+            CacheTranslation(one.Narrow(field[0]), one.Wide(field[1]), one.Narrow(field[2]), one.Narrow(field[3]));
         }
     }
     AfxFreeLibrary(store);
@@ -118,7 +144,7 @@ void LocalizationManager::StoreTranslations()
     }
     auto read = Bind<IniReaderFn>(util, kIniReaderExport);
     if (read == nullptr)
-        return;  // kept: hosts rely on both libraries staying loaded on this path
+        return; // kept: hosts rely on both libraries staying loaded on this path
     CString setting = ReadLanguageSetting(read);
     CString id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
     if (!id.IsEmpty())

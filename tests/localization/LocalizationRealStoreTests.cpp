@@ -1,0 +1,84 @@
+// The manager with the real store: a host in translation mode asks for texts and sets
+// translations, disposes, and the language's PO file then holds them. Each test keeps its
+// store in store-files/<test>/ beside the test program's folder; once they have run, msgfmt -c
+// checks every file they left.
+#include "LocalizationTestSupport.h"
+
+namespace localization_tests
+{
+
+namespace
+{
+
+const char kHeader[] = "msgid \"\"\n"
+                       "msgstr \"\"\n"
+                       "\"Project-Id-Version: KivGallery 1.0\\n\"\n"
+                       "\"PO-Revision-Date: 2024-05-01 10:00+0200\\n\"\n"
+                       "\"Last-Translator: Anna Berg <anna@example.com>\\n\"\n"
+                       "\"Language-Team: German\\n\"\n"
+                       "\"Language: de\\n\"\n"
+                       "\"MIME-Version: 1.0\\n\"\n"
+                       "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+                       "\"Content-Transfer-Encoding: 8bit\\n\"\n"
+                       "\"X-Language-Names: German, Deutsch\\n\"\n";
+
+// An entry of the file, texts in PO syntax.
+std::string Entry(const std::string& section, const std::string& key, const std::string& msgid,
+                  const std::string& msgstr)
+{
+    return "\nmsgctxt \"" + section + "\\n" + key + "\"\nmsgid \"" + msgid + "\"\nmsgstr \"" + msgstr + "\"\n";
+}
+
+} // namespace
+
+TEST_F(LocalizationManager, HostInTranslationModeLeavesItsTextsInTheLanguageFile)
+{
+    UseRealStore(kHeader);
+    Manager* m = Manager::Get();
+    EXPECT_EQ(1, m->IsTranslationMode());
+    m->SetTranslation("Cancel", L"Abbrechen", "2", "100");
+    m->SetTranslation("Language", L"\x65E5\x672C\x8A9E", "3", "100");
+    EXPECT_STREQ(L"Abbrechen", m->GetWideTranslation("Cancel", 2, 100));
+    EXPECT_STREQ("OK", m->GetTranslation("OK", 1, 100));
+    EXPECT_STREQ(L"Say \"hi\" \\ now", m->GetWideTranslation("Say \"hi\" \\ now", "Title", "Main"));
+    BSTR text = m->GetBSTRTranlation("Open", 7, 0);
+    ::SysFreeString(text);
+    Manager::Dispose();
+    EXPECT_FALSE(IsLoaded("kivstore64.dll"));
+
+    std::string file = LanguageFile();
+    EXPECT_EQ(0u, file.find(kHeader)) << file;
+    for (const std::string& entry :
+         {Entry("100", "1", "OK", ""), Entry("100", "2", "Cancel", "Abbrechen"),
+          Entry("100", "3", "Language", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E"),
+          Entry("Main", "Title", "Say \\\"hi\\\" \\\\ now", ""), Entry("0", "7", "Open", "")})
+        EXPECT_NE(std::string::npos, file.find(entry)) << entry << "\nin\n" << file;
+}
+
+TEST_F(LocalizationManager, TranslatorsEntriesThatTheHostDoesNotAskForAreKept)
+{
+    UseRealStore(std::string(kHeader) + Entry("300", "5", "Close",
+                                              "Schlie\xC3\x9F"
+                                              "en"));
+    Manager* m = Manager::Get();
+    m->GetTranslation("OK", 1, 100);
+    Manager::Dispose();
+    std::string file = LanguageFile();
+    EXPECT_NE(std::string::npos, file.find(Entry("300", "5", "Close",
+                                                 "Schlie\xC3\x9F"
+                                                 "en")))
+        << file;
+    EXPECT_NE(std::string::npos, file.find(Entry("100", "1", "OK", ""))) << file;
+}
+
+TEST_F(LocalizationManager, StoreRecordsArePreloadedOneCharacterPerField)
+{
+    UseRealStore(std::string(kHeader) + Entry("700", "90", "Yes", "Ja"));
+    Manager* m = Manager::Get();
+    EXPECT_STREQ(L"J", m->GetWideTranslation("Yes", 9, 7));
+    EXPECT_STREQ(L"Yes", m->GetWideTranslation("Yes", 90, 700));
+    ASSERT_NE(nullptr, CachedEntry(m, "7", "9"));
+    EXPECT_STREQ("Y", CachedEntry(m, "7", "9")->defaultText);
+}
+
+} // namespace localization_tests
