@@ -12,12 +12,12 @@ IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
-HGDIOBJ AFXAPI AfxGetSafeHandle(const CGdiObject* pObject)
+__attribute__((noinline)) HGDIOBJ AFXAPI AfxGetSafeHandle(const CGdiObject* pObject)
 {
     return pObject == nullptr ? nullptr : pObject->m_hObject;
 }
 
-HDC AFXAPI AfxGetSafeHdc(const CDC* pDC)
+__attribute__((noinline)) HDC AFXAPI AfxGetSafeHdc(const CDC* pDC)
 {
     return pDC == nullptr ? nullptr : pDC->m_hDC;
 }

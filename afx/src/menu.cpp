@@ -3,7 +3,7 @@
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
 
-HMENU AFXAPI AfxGetSafeHmenu(const CMenu* pMenu)
+__attribute__((noinline)) HMENU AFXAPI AfxGetSafeHmenu(const CMenu* pMenu)
 {
     return pMenu == nullptr ? nullptr : pMenu->m_hMenu;
 }

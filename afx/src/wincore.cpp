@@ -30,7 +30,7 @@ CWnd::~CWnd()
         DestroyWindow();
 }
 
-HWND AFXAPI AfxGetSafeHwnd(const CWnd* pWnd)
+__attribute__((noinline)) HWND AFXAPI AfxGetSafeHwnd(const CWnd* pWnd)
 {
     return pWnd == nullptr ? nullptr : pWnd->m_hWnd;
 }
