@@ -110,11 +110,21 @@ BOOL IsImeWindow(HWND hWnd)
     return lstrcmpiA(szClass, "IME") == 0;
 }
 
+BOOL IsDialogWindow(HWND hWnd)
+{
+    char szClass[16] = {};
+    ::GetClassNameA(hWnd, szClass, sizeof(szClass));
+    return lstrcmpA(szClass, "#32770") == 0;
+}
+
 LRESULT CALLBACK CbtFilterHook(int code, WPARAM wParam, LPARAM lParam)
 {
     AfxThreadState* pState = AfxGetThreadState();
     HHOOK hHook = pState->m_hHookCbt;
     if (code != HCBT_CREATEWND || pState->m_pWndInit == nullptr || IsImeWindow((HWND)wParam))
+        return ::CallNextHookEx(hHook, code, wParam, lParam);
+    // A dialog object waits for a dialog window, whatever else is made before it.
+    if (pState->m_pWndInit->IsKindOf(RUNTIME_CLASS(CDialog)) && !IsDialogWindow((HWND)wParam))
         return ::CallNextHookEx(hHook, code, wParam, lParam);
     // The object takes the window before it sees WM_NCCREATE; one window per hook.
     CWnd* pWnd = pState->m_pWndInit;
