@@ -6,6 +6,10 @@ namespace kivtest {
 
 namespace {
 
+// One tick at a time, armed again after each, so the loop being driven still finds its queue
+// empty and goes idle (a modal dialog shows itself then).
+const UINT kTickMs = 50;
+
 std::vector<ModalDriver*>& Drivers()
 {
     static std::vector<ModalDriver*> drivers;
@@ -19,7 +23,7 @@ ModalDriver::ModalDriver(std::function<void(HWND)> action, UINT nTimeoutMs)
 {
     Drivers().push_back(this);
     m_hHook = ::SetWindowsHookExA(WH_CBT, CbtHook, nullptr, ::GetCurrentThreadId());
-    m_nTimer = ::SetTimer(nullptr, 0, 20, OnTimer);
+    m_nTimer = ::SetTimer(nullptr, 0, kTickMs, OnTimer);
 }
 
 ModalDriver::~ModalDriver()
@@ -54,6 +58,13 @@ void ModalDriver::Tick()
 {
     if (m_bActing)
         return;
+    ::KillTimer(nullptr, m_nTimer);
+    TickOnce();
+    m_nTimer = ::SetTimer(nullptr, 0, kTickMs, OnTimer);
+}
+
+void ModalDriver::TickOnce()
+{
     if (!m_bActed)
     {
         for (auto it = m_created.rbegin(); it != m_created.rend(); ++it)
@@ -75,7 +86,7 @@ void ModalDriver::Tick()
         HWND hWnd = m_hWndActed;
         if (hWnd == nullptr)
             for (HWND hCreated : m_created)
-                if (::IsWindow(hCreated) && ::IsWindowVisible(hCreated))
+                if (::IsWindow(hCreated) && ::IsWindowEnabled(hCreated))
                     hWnd = hCreated;
         if (hWnd != nullptr && ::IsWindow(hWnd))
         {

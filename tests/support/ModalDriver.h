@@ -32,6 +32,7 @@ private:
     static LRESULT CALLBACK CbtHook(int code, WPARAM wParam, LPARAM lParam);
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR idEvent, DWORD);
     void Tick();
+    void TickOnce();
 
     std::function<void(HWND)> m_action;
     UINT m_nTimeoutMs;
