@@ -289,3 +289,40 @@ TEST(CWnd, EveryControlColourMessageReachesTheMergedHandler)
     ::ReleaseDC(hEdit, hDC);
     parent.DestroyWindow();
 }
+
+namespace {
+
+// A list box whose rows are measured by its own object.
+class CMeasuredList : public CListBox
+{
+public:
+    int m_nMeasured = 0;
+    UINT m_nCtlID = 0;
+
+protected:
+    afx_msg void MeasureItem(LPMEASUREITEMSTRUCT lpMIS)
+    {
+        ++m_nMeasured;
+        m_nCtlID = lpMIS->CtlID;
+        lpMIS->itemHeight = 23;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CMeasuredList, CListBox)
+    ON_WM_MEASUREITEM_REFLECT()
+END_MESSAGE_MAP()
+
+}  // namespace
+
+TEST(CWnd, MeasureItemOfAnOwnerDrawnListIsReflectedToTheList)
+{
+    CWnd parent;
+    ASSERT_TRUE(CreateTopLevel(parent));
+    CMeasuredList list;
+    ASSERT_TRUE(list.Create(WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 100, 100), &parent, 71));
+    EXPECT_GE(list.m_nMeasured, 1);
+    EXPECT_EQ(71u, list.m_nCtlID);
+    EXPECT_EQ(23, (int)list.SendMessage(LB_GETITEMHEIGHT, 0));
+    parent.DestroyWindow();
+}
