@@ -15,3 +15,8 @@
 
 #define ID_APP_ABOUT 0xE140
 #define ID_APP_EXIT 0xE141
+
+#define ID_WIZBACK 0x3023
+#define ID_WIZNEXT 0x3024
+#define ID_WIZFINISH 0x3025
+#define ID_APPLY_NOW 0x3021

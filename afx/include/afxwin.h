@@ -1,4 +1,5 @@
-// Windows part of the runtime. The core: module state, libraries, resources, value types.
+// Windows part of the runtime: module state, libraries, resources, value types, command
+// targets, windows, drawing, dialogs, controls, applications and frames.
 #pragma once
 
 #include "afx.h"
@@ -18,3 +19,8 @@ AFX_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType)
 // Initialises the module state for the application module hInstance, as a GUI or a
 // console host does before it uses the runtime.
 AFX_API BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow);
+
+#include "afxgdi_.h"
+#include "afxwnd_.h"
+#include "afxdlg_.h"
+#include "afxframe_.h"

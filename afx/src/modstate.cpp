@@ -60,7 +60,7 @@ void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource)
     AfxGetModuleState()->m_hCurrentResourceHandle = hInstResource;
 }
 
-BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE /*hPrevInstance*/, LPSTR /*lpCmdLine*/, int /*nCmdShow*/)
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE /*hPrevInstance*/, LPSTR lpCmdLine, int nCmdShow)
 {
     AFX_MODULE_STATE* pState = AfxGetModuleState();
     pState->m_hCurrentInstanceHandle = hInstance;
@@ -76,8 +76,18 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE /*hPrevInstance*/, LPSTR /
         int dot = file.ReverseFind('.');
         name = dot >= 0 ? file.Left(dot) : file;
     }
-    if (pState->m_lpszCurrentAppName == nullptr)
+    // An application object names itself; a console host takes the name found here.
+    if (CWinApp* pApp = pState->m_pCurrentWinApp)
+    {
+        pApp->m_hInstance = hInstance;
+        pApp->m_lpCmdLine = lpCmdLine;
+        pApp->m_nCmdShow = nCmdShow;
+        pApp->SetCurrentHandles();
+    }
+    else if (pState->m_lpszCurrentAppName == nullptr)
+    {
         pState->m_lpszCurrentAppName = name;
+    }
     return TRUE;
 }
 

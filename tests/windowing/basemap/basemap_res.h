@@ -1,0 +1,2 @@
+#pragma once
+#define IDD_LIBRARY_DIALOG 700
