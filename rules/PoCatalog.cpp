@@ -211,7 +211,16 @@ bool PoCatalog::Load(std::string bytes, PoError* error)
     std::vector<std::size_t> suspects;
     for (std::size_t i = 0; i < loaded.m_file.entries.size(); ++i)
     {
-        if (!loaded.m_file.entries[i].hasContext)
+        const PoEntry& entry = loaded.m_file.entries[i];
+        // msgfmt takes any entry without context and with an empty msgid for the header; one with
+        // plural forms is not a header here, so saving would add a second definition beside it.
+        if (!entry.hasContext && entry.msgid.empty() && entry.hasPlural)
+        {
+            if (error)
+                *error = {1, "the header has plural forms"};
+            return false;
+        }
+        if (!entry.hasContext)
         {
             suspects.push_back(i);
             continue;

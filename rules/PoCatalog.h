@@ -75,7 +75,8 @@ public:
 
     // Operations
     // Reads a file; refuses one msgfmt would refuse as a whole (syntax, encoding, a charset
-    // other than UTF-8, a message defined twice).
+    // other than UTF-8, a message defined twice) and one whose header has plural forms, which
+    // Save could neither complete nor add a header beside.
     bool Load(std::string bytes, PoError* error = nullptr);
     Result Insert(std::string_view context, std::string_view msgid, std::string_view msgstr);
     Result Update(std::string_view context, std::string_view msgstr);

@@ -116,6 +116,22 @@ TEST(PoCatalog, RefusesAMessageDefinedTwice)
     EXPECT_TRUE(catalog.Load("msgid \"a\"\nmsgstr \"x\"\n" + Entry("", "a", "y")));
 }
 
+// msgfmt reads an entry without context and with an empty msgid as the header, plural forms
+// or not; Save would add a header beside it, and the file would define that message twice.
+TEST(PoCatalog, RefusesAHeaderWithPluralForms)
+{
+    const std::string plural = "msgid \"\"\nmsgid_plural \"files\"\nmsgstr[0] \"Datei\"\nmsgstr[1] \"Dateien\"\n";
+    PoCatalog catalog;
+    PoError error;
+    EXPECT_FALSE(catalog.Load(plural, &error));
+    EXPECT_EQ("the header has plural forms", error.message);
+    EXPECT_FALSE(catalog.Load(Entry("1\\n2", "a", "x") + "\n" + plural));
+    // With a context the entry is an ordinary one, and the saved file loads again.
+    catalog = Loaded("msgctxt \"1\\n2\"\n" + plural);
+    PoCatalog saved = Loaded(catalog.Save(kInfo));
+    EXPECT_EQ(2u, saved.File().entries.size());
+}
+
 TEST(PoCatalog, RefusesACharsetOtherThanUtf8)
 {
     PoCatalog catalog;
