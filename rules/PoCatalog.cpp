@@ -261,6 +261,8 @@ PoCatalog::Result PoCatalog::Update(std::string_view context, std::string_view m
     PoEntry& entry = m_file.entries[at];
     if (entry.msgstr == msgstr)
         return kUnchanged;
+    if (msgstr.empty())
+        return kKeptTranslation;
     entry.msgstr = m_file.Keep(msgstr);
     entry.MarkChanged();
     m_changed = true;

@@ -61,7 +61,8 @@ public:
         kDone,
         kUnchanged,
         kNotHeld,
-        kAlreadyHeld
+        kAlreadyHeld,
+        kKeptTranslation
     };
 
     // Attributes
@@ -79,6 +80,8 @@ public:
     // Save could neither complete nor add a header beside.
     bool Load(std::string bytes, PoError* error = nullptr);
     Result Insert(std::string_view context, std::string_view msgid, std::string_view msgstr);
+    // An empty text never replaces a translation: callers that know a text only by its first
+    // character send empty ones for texts a translator has filled (kKeptTranslation).
     Result Update(std::string_view context, std::string_view msgstr);
     // Makes a change again on this copy: an insertion the file already holds is dropped, an
     // update of an entry the file lacks becomes an insertion with an empty default text.

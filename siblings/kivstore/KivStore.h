@@ -20,6 +20,7 @@ enum KivStoreResult
     kStoreRefusedText = 3,     // a null section or key, a section with a line feed, U+0004, a lone surrogate
     kStoreAlreadyHeld = 4,     // insertion of a string the language already has; nothing changed
     kStoreSetAside = 5,        // the language's file cannot be read; the change went to its side file
+    kStoreKeptTranslation = 6, // an empty text does not replace a translation; nothing changed
 };
 
 // The id (PO file name without extension) of the language that the setting names: the id

@@ -165,6 +165,8 @@ int LanguageStore::Update(const char* id, const std::string& context, const std:
     PoCatalog::Result result = language->catalog.Update(context, msgstr);
     if (result == PoCatalog::kNotHeld)
         return kStoreNotHeld;
+    if (result == PoCatalog::kKeptTranslation)
+        return kStoreKeptTranslation;
     if (result == PoCatalog::kDone)
     {
         language->changes.push_back(std::move(change));

@@ -324,6 +324,16 @@ TEST_F(KivStore, UpdateReplacesThatTranslationInItsPlace)
     EXPECT_EQ(expected, ReadFile("de.po"));
 }
 
+TEST_F(KivStore, AnEmptyUpdateNeverErasesATranslatorsText)
+{
+    WriteFile("de.po", kGerman);
+    Load();
+    EXPECT_EQ(kStoreKeptTranslation, Update(L"", "de", "100", "1"));
+    EXPECT_STREQ(L"In Ordnung", Held("de", "100", "1"));
+    Unload();
+    EXPECT_EQ(kGerman, ReadFile("de.po"));
+}
+
 TEST_F(KivStore, UpdateOfAStringNotHeldAnswersNotHeld)
 {
     WriteFile("de.po", kGerman);

@@ -71,6 +71,18 @@ TEST_F(LocalizationManager, TranslatorsEntriesThatTheHostDoesNotAskForAreKept)
     EXPECT_NE(std::string::npos, file.find(Entry("100", "1", "OK", ""))) << file;
 }
 
+// The preload keeps one character per field, so a text the store translates is a miss for the
+// manager and goes back empty at disposal; the store keeps the translator's text.
+TEST_F(LocalizationManager, AskedTextsKeepTheirStoredTranslations)
+{
+    UseRealStore(std::string(kHeader) + Entry("100", "2", "Cancel", "Abbrechen"));
+    Manager* m = Manager::Get();
+    EXPECT_STREQ("Cancel", m->GetTranslation("Cancel", 2, 100));
+    Manager::Dispose();
+    std::string file = LanguageFile();
+    EXPECT_NE(std::string::npos, file.find(Entry("100", "2", "Cancel", "Abbrechen"))) << file;
+}
+
 TEST_F(LocalizationManager, StoreRecordsArePreloadedOneCharacterPerField)
 {
     UseRealStore(std::string(kHeader) + Entry("700", "90", "Yes", "Ja"));

@@ -172,6 +172,16 @@ TEST(PoCatalog, UpdateChangesThatEntryOnly)
     EXPECT_EQ(std::string(kHeader) + Entry("1\\n2", "a", "x") + Entry("1\\n3", "b", "z"), catalog.Save(kInfo));
 }
 
+TEST(PoCatalog, AnEmptyUpdateKeepsTheTranslation)
+{
+    const std::string text = std::string(kHeader) + Entry("1\\n2", "a", "x") + Entry("1\\n3", "b", "");
+    PoCatalog catalog = Loaded(text);
+    EXPECT_EQ(PoCatalog::kKeptTranslation, catalog.Update("1\n2", ""));
+    EXPECT_EQ(PoCatalog::kUnchanged, catalog.Update("1\n3", ""));
+    EXPECT_FALSE(catalog.IsChanged());
+    EXPECT_EQ(text, catalog.Save(kInfo));
+}
+
 TEST(PoCatalog, ApplyDropsAHeldInsertionAndInsertsAnUpdateOfAMissingEntry)
 {
     PoCatalog catalog = Loaded(Entry("1\\n2", "a", "x"));
