@@ -1,7 +1,9 @@
 # `cmake --install` lays out a package that an outside host finds with find_package(KivMFC).
 include(CMakePackageConfigHelpers)
 
-install(TARGETS afx KivMFC EXPORT KivMFCTargets
+set_target_properties(afx_winmain PROPERTIES EXPORT_NAME afxmain)
+install(TARGETS afx KivMFC afx_winmain EXPORT KivMFCTargets
+  OBJECTS DESTINATION lib/objects
   RUNTIME DESTINATION bin
   ARCHIVE DESTINATION lib
   LIBRARY DESTINATION bin)
