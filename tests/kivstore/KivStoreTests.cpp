@@ -1,28 +1,13 @@
 // The language-string store, loaded by name and called through its decorated exports; the
 // assertions read the PO files it leaves.
 #include "StoreTest.h"
+#include "PoText.h"
 
 namespace
 {
 
-const char kHeader[] = "msgid \"\"\n"
-                       "msgstr \"\"\n"
-                       "\"Project-Id-Version: KivGallery 1.0\\n\"\n"
-                       "\"PO-Revision-Date: 2024-05-01 10:00+0200\\n\"\n"
-                       "\"Last-Translator: Anna Berg <anna@example.com>\\n\"\n"
-                       "\"Language-Team: German\\n\"\n"
-                       "\"Language: de\\n\"\n"
-                       "\"MIME-Version: 1.0\\n\"\n"
-                       "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
-                       "\"Content-Transfer-Encoding: 8bit\\n\"\n"
-                       "\"X-Language-Names: German, Deutsch\\n\"\n";
-
-// An entry as the store writes it, with the blank line before it; texts in PO syntax.
-std::string Entry(const std::string& section, const std::string& key, const std::string& msgid,
-                  const std::string& msgstr)
-{
-    return "\nmsgctxt \"" + section + "\\n" + key + "\"\nmsgid \"" + msgid + "\"\nmsgstr \"" + msgstr + "\"\n";
-}
+const auto& kHeader = kiv_tests::kPoHeader;
+const auto Entry = kiv_tests::PoEntry;
 
 // text with every "from" replaced by "to".
 std::string Replaced(std::string text, const std::string& from, const std::string& to)

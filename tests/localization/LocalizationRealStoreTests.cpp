@@ -3,6 +3,7 @@
 // store in store-files/<test>/ beside the test program's folder; once they have run, msgfmt -c
 // checks every file they left.
 #include "LocalizationTestSupport.h"
+#include "PoText.h"
 
 namespace localization_tests
 {
@@ -10,24 +11,8 @@ namespace localization_tests
 namespace
 {
 
-const char kHeader[] = "msgid \"\"\n"
-                       "msgstr \"\"\n"
-                       "\"Project-Id-Version: KivGallery 1.0\\n\"\n"
-                       "\"PO-Revision-Date: 2024-05-01 10:00+0200\\n\"\n"
-                       "\"Last-Translator: Anna Berg <anna@example.com>\\n\"\n"
-                       "\"Language-Team: German\\n\"\n"
-                       "\"Language: de\\n\"\n"
-                       "\"MIME-Version: 1.0\\n\"\n"
-                       "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
-                       "\"Content-Transfer-Encoding: 8bit\\n\"\n"
-                       "\"X-Language-Names: German, Deutsch\\n\"\n";
-
-// An entry of the file, texts in PO syntax.
-std::string Entry(const std::string& section, const std::string& key, const std::string& msgid,
-                  const std::string& msgstr)
-{
-    return "\nmsgctxt \"" + section + "\\n" + key + "\"\nmsgid \"" + msgid + "\"\nmsgstr \"" + msgstr + "\"\n";
-}
+const auto& kHeader = kiv_tests::kPoHeader;
+const auto Entry = kiv_tests::PoEntry;
 
 } // namespace
 
