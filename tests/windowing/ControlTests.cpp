@@ -1,6 +1,7 @@
 // Common controls: tabs, list views, image lists and tooltips.
 #include <afxcmn.h>
 
+#include "MessageSpy.h"
 #include "PixelProbe.h"
 #include "WindowingTest.h"
 #include "windowing_res.h"
@@ -202,5 +203,28 @@ TEST(CToolTipCtrl, ToolsKeepTheirTextsAndUpdates)
     EXPECT_EQ(32767, tip.GetMaxTipWidth());
     tip.DelTool(&button);
     EXPECT_EQ(0, tip.GetToolCount());
+    parent.DestroyWindow();
+}
+
+TEST(CToolTipCtrl, RelayEventAndActivateReachTheControl)
+{
+    CWnd parent;
+    ASSERT_TRUE(CreateTopLevel(parent));
+    CToolTipCtrl tip;
+    ASSERT_TRUE(tip.Create(&parent, TTS_ALWAYSTIP));
+    kivtest::MessageSpy spy;
+    spy.Only({TTM_RELAYEVENT, TTM_ACTIVATE});
+    spy.Watch(tip.m_hWnd);
+    MSG msg = {parent.m_hWnd, WM_MOUSEMOVE, 0, MAKELPARAM(20, 20), 0, {20, 20}};
+    tip.RelayEvent(&msg);
+    tip.Activate(FALSE);
+    tip.Activate(TRUE);
+    spy.Unwatch(tip.m_hWnd);
+    ASSERT_EQ(3u, spy.Messages().size());
+    EXPECT_EQ((UINT)TTM_RELAYEVENT, spy.Messages()[0].message);
+    EXPECT_EQ((LPARAM)&msg, spy.Messages()[0].lParam);
+    EXPECT_EQ((UINT)TTM_ACTIVATE, spy.Messages()[1].message);
+    EXPECT_EQ(0u, spy.Messages()[1].wParam);
+    EXPECT_EQ(1u, spy.Messages()[2].wParam);
     parent.DestroyWindow();
 }
