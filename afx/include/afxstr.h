@@ -73,7 +73,12 @@ template <> struct ChTraitsKiv<wchar_t>
     typedef wchar_t XCHAR;
     typedef char YCHAR;
     static int SafeLength(const wchar_t* p) noexcept { return p ? (int)wcslen(p) : 0; }
-    static bool IsSpace(wchar_t c) noexcept { return iswspace(c) != 0; }
+    static bool IsSpace(wchar_t c) noexcept
+    {
+        if (c > L' ' && c < 0x80)
+            return false;  // printable ASCII: spare the runtime's locale call on every trim
+        return iswspace(c) != 0;
+    }
     static int Compare(const wchar_t* a, const wchar_t* b) noexcept { return wcscmp(a, b); }
     static int CompareNoCase(const wchar_t* a, const wchar_t* b) noexcept { return _wcsicmp(a, b); }
     static int Collate(const wchar_t* a, const wchar_t* b) noexcept { return wcscoll(a, b); }

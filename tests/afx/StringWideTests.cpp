@@ -76,3 +76,13 @@ TEST(CStringW, MakeUpperAndLower)
     s.MakeLower();
     EXPECT_STREQ(L"title", s);
 }
+
+TEST(CStringW, TrimKeepsPrintableAsciiAndRemovesWideBlanks)
+{
+    CStringW s(L"\u3000\t x~ \u3000");
+    s.Trim();
+    EXPECT_STREQ(L"x~", s);
+    CStringW punctuation(L"!a!");
+    punctuation.Trim();
+    EXPECT_STREQ(L"!a!", punctuation);
+}
