@@ -28,6 +28,27 @@ CString LanguageIdOf(HINSTANCE store, const CString& setting)
     return getId != nullptr ? getId(setting) : CString();
 }
 
+// Loads the store, then the setting reader, and names the language that the setting asks
+// for (empty when none). False when there is nothing to do: a library that did not load has
+// been released with the other, while a reader without its name leaves both loaded.
+bool OpenSiblings(HINSTANCE& store, HINSTANCE& util, CString& id)
+{
+    store = AfxLoadLibrary(kStoreLibrary);
+    util = AfxLoadLibrary(kUtilLibrary);
+    if (store == nullptr || util == nullptr)
+    {
+        AfxFreeLibrary(store);
+        AfxFreeLibrary(util);
+        return false;
+    }
+    auto read = Bind<IniReaderFn>(util, kIniReaderExport);
+    if (read == nullptr)
+        return false; // kept: hosts rely on both libraries staying loaded on this path
+    CString setting = ReadLanguageSetting(read);
+    id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
+    return true;
+}
+
 // The strings made from a store record at start-up: only the first unit of each field, kept
 // as hosts have always seen it; an empty field stays empty. ASCII units convert to themselves
 // in every ANSI code page, so their strings are made once per load and then shared.
@@ -104,19 +125,11 @@ int LocalizationManager::IsTranslationMode()
 
 void LocalizationManager::LoadTranslations()
 {
-    HINSTANCE store = AfxLoadLibrary(kStoreLibrary);
-    HINSTANCE util = AfxLoadLibrary(kUtilLibrary);
-    if (store == nullptr || util == nullptr)
-    {
-        AfxFreeLibrary(store);
-        AfxFreeLibrary(util);
+    HINSTANCE store = nullptr;
+    HINSTANCE util = nullptr;
+    CString id;
+    if (!OpenSiblings(store, util, id))
         return;
-    }
-    auto read = Bind<IniReaderFn>(util, kIniReaderExport);
-    if (read == nullptr)
-        return; // kept: hosts rely on both libraries staying loaded on this path
-    CString setting = ReadLanguageSetting(read);
-    CString id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
     if (!id.IsEmpty())
     {
         auto getStrings = Bind<GetLanguageStringsFn>(store, kGetLanguageStringsExport);
@@ -134,19 +147,11 @@ void LocalizationManager::LoadTranslations()
 
 void LocalizationManager::StoreTranslations()
 {
-    HINSTANCE store = AfxLoadLibrary(kStoreLibrary);
-    HINSTANCE util = AfxLoadLibrary(kUtilLibrary);
-    if (store == nullptr || util == nullptr)
-    {
-        AfxFreeLibrary(store);
-        AfxFreeLibrary(util);
+    HINSTANCE store = nullptr;
+    HINSTANCE util = nullptr;
+    CString id;
+    if (!OpenSiblings(store, util, id))
         return;
-    }
-    auto read = Bind<IniReaderFn>(util, kIniReaderExport);
-    if (read == nullptr)
-        return; // kept: hosts rely on both libraries staying loaded on this path
-    CString setting = ReadLanguageSetting(read);
-    CString id = setting.IsEmpty() ? CString() : LanguageIdOf(store, setting);
     if (!id.IsEmpty())
     {
         CString section, key;
