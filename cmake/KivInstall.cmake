@@ -1,21 +1,41 @@
-# `cmake --install` lays out a package that an outside host finds with find_package(KivMFC).
+# `cmake --install` lays out a package that an outside host finds with find_package(KivMFC):
+# bin/ with every DLL a host runs with, include/ with the runtime's MFC-style headers and the
+# library's public headers under include/KivMFC, lib/cmake/KivMFC with the targets and
+# kivmfc_deploy, share/KivMFC with the toolchain file.
 include(CMakePackageConfigHelpers)
 
 set_target_properties(afx_winmain PROPERTIES EXPORT_NAME afxmain)
 install(TARGETS afx KivMFC afx_winmain EXPORT KivMFCTargets
+  FILE_SET HEADERS DESTINATION include/KivMFC
   OBJECTS DESTINATION lib/objects
   RUNTIME DESTINATION bin
   ARCHIVE DESTINATION lib
   LIBRARY DESTINATION bin)
 install(DIRECTORY afx/include/ DESTINATION include)
-install(DIRECTORY rules/ DESTINATION include FILES_MATCHING PATTERN "*.h")
-foreach(dir frame localization controls dialogs strings)
-  install(DIRECTORY ${dir}/ DESTINATION include/KivMFC FILES_MATCHING PATTERN "*.h")
-endforeach()
 install(EXPORT KivMFCTargets NAMESPACE KivMFC:: DESTINATION lib/cmake/KivMFC)
-file(WRITE ${CMAKE_BINARY_DIR}/KivMFCConfig.cmake
-  "include(\${CMAKE_CURRENT_LIST_DIR}/KivMFCTargets.cmake)\n")
+
+# The sibling libraries the library loads or derives from at run time.
+foreach(sibling kivutil kivstore kivflex)
+  if(TARGET ${sibling})
+    install(TARGETS ${sibling} RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
+  endif()
+endforeach()
+
+# The compiler's run-time DLLs, for hosts that do not link the C++ runtime statically.
+foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
+    OUTPUT_VARIABLE found OUTPUT_STRIP_TRAILING_WHITESPACE)
+  get_filename_component(found "${found}" REALPATH)
+  if(NOT EXISTS "${found}")
+    message(FATAL_ERROR "the compiler has no ${dll}")
+  endif()
+  install(FILES ${found} DESTINATION bin)
+endforeach()
+
+install(FILES cmake/mingw-w64-x86_64.cmake DESTINATION share/KivMFC)
+install(PROGRAMS cmake/wine-run DESTINATION share/KivMFC)
+
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/KivMFCConfigVersion.cmake
   VERSION ${PROJECT_VERSION} COMPATIBILITY SameMajorVersion)
-install(FILES ${CMAKE_BINARY_DIR}/KivMFCConfig.cmake ${CMAKE_BINARY_DIR}/KivMFCConfigVersion.cmake
+install(FILES cmake/KivMFCConfig.cmake ${CMAKE_BINARY_DIR}/KivMFCConfigVersion.cmake
   DESTINATION lib/cmake/KivMFC)

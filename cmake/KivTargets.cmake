@@ -18,3 +18,9 @@ function(kiv_wine_test target)
     WORKING_DIRECTORY ${CMAKE_BINARY_DIR}/bin
     PROPERTIES LABELS wine TIMEOUT 120)
 endfunction()
+
+# Headers of the library that a host includes: on the include path of every user of KivMFC,
+# and installed under include/KivMFC. A folder's other headers stay internal.
+function(kiv_public_headers)
+  target_sources(KivMFC PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${ARGN})
+endfunction()

@@ -1,5 +1,6 @@
 // The key scheme of the translation cache: numeric keys and sections are their decimal
-// text, so key 1005 of dialog 2001 is the key "1005" in the section "2001".
+// text, so key 1005 of dialog 2001 is the key "1005" in the section "2001". Internal to the
+// library.
 #pragma once
 
 #include <afx.h>

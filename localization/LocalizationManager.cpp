@@ -1,11 +1,14 @@
 // LocalizationManager: the singleton, the translation cache and the lookups.
 #include "LocalizationManager.h"
 
+#include "KivSiblings.h"
 #include "LocalizationKeys.h"
+#include "StoreSession.h"
 
 #include <iterator>
 
 using kiv::localization::KeyText;
+using kiv::localization::StoreSession;
 
 namespace
 {
@@ -16,6 +19,18 @@ constexpr INT_PTR kBlockSize = 10;
 // map starts at the runtime's default and moves up this list as it fills.
 constexpr UINT kSectionTableSize = 257;
 constexpr UINT kKeyTableSizes[] = {17, 67, 257, 1031, 4099, 16411, 65537, 262147, 1048583};
+
+// Calls visit(name, value) for each association, in the map's own order.
+template <typename Visit> void ForEachAssoc(CMapStringToPtr& map, Visit visit)
+{
+    CString name;
+    void* value = nullptr;
+    for (POSITION pos = map.GetStartPosition(); pos != nullptr;)
+    {
+        map.GetNextAssoc(pos, name, value);
+        visit(name, value);
+    }
+}
 
 // The runtime's maps never rehash, so a key map with more keys than buckets is moved into a
 // larger one; a lookup then stays a walk of a short chain.
@@ -33,16 +48,44 @@ CMapStringToPtr* GrowIfCrowded(CMapStringToPtr* keys)
         }
     auto* grown = new CMapStringToPtr(kBlockSize);
     grown->InitHashTable(bigger);
-    CString key;
-    void* value = nullptr;
-    for (POSITION pos = keys->GetStartPosition(); pos != nullptr;)
-    {
-        keys->GetNextAssoc(pos, key, value);
-        grown->SetAt(key, value);
-    }
+    ForEachAssoc(*keys, [&](const CString& key, void* value) { grown->SetAt(key, value); });
     delete keys;
     return grown;
 }
+
+// The strings made from a store record at start-up: only the first unit of each field, kept
+// as hosts have always seen it; an empty field stays empty. ASCII units convert to themselves
+// in every ANSI code page, so their strings are made once per load and then shared.
+class PreloadStrings
+{
+public:
+    CString Narrow(const CStringW& field)
+    {
+        if (field.IsEmpty())
+            return CString();
+        wchar_t unit = field[0];
+        if (unit >= 0x80)
+            return CString(field.GetString(), 1);
+        if (m_narrow[unit].IsEmpty())
+            m_narrow[unit] = CString((char)unit, 1);
+        return m_narrow[unit];
+    }
+    CStringW Wide(const CStringW& field)
+    {
+        if (field.IsEmpty())
+            return CStringW();
+        wchar_t unit = field[0];
+        if (unit >= 0x80)
+            return CStringW(unit, 1);
+        if (m_wide[unit].IsEmpty())
+            m_wide[unit] = CStringW(unit, 1);
+        return m_wide[unit];
+    }
+
+private:
+    CString m_narrow[0x80];
+    CStringW m_wide[0x80];
+};
 
 } // namespace
 
@@ -96,22 +139,52 @@ void LocalizationManager::SaveTranslations()
     m_pTranslationCache = nullptr;
 }
 
+void LocalizationManager::LoadTranslations()
+{
+    using namespace kiv::siblings;
+    StoreSession store;
+    PreloadStrings one;
+    store.ForEachRecord(
+        [&](const CStringW* field)
+        {
+            CacheTranslation(one.Narrow(field[kRecordDefaultText]), one.Wide(field[kRecordTranslation]),
+                             one.Narrow(field[kRecordKey]), one.Narrow(field[kRecordSection]));
+        });
+}
+
+void LocalizationManager::StoreTranslations()
+{
+    StoreSession store;
+    if (store.LanguageId().IsEmpty())
+        return;
+    ForEachAssoc(*m_pTranslationCache,
+                 [&](const CString& section, void* keys)
+                 {
+                     ForEachAssoc(*static_cast<CMapStringToPtr*>(keys),
+                                  [&](const CString& key, void* entry)
+                                  {
+                                      const auto* text = static_cast<const TranslationEntry*>(entry);
+                                      if (text != nullptr)
+                                          store.Save(section, key, text->defaultText, text->translatedText);
+                                  });
+                 });
+}
+
+int LocalizationManager::IsTranslationMode()
+{
+    return StoreSession::TranslationMode();
+}
+
 void LocalizationManager::ClearTranslationCache()
 {
-    CString section, key;
-    void* keys = nullptr;
-    void* entry = nullptr;
-    for (POSITION pos = m_pTranslationCache->GetStartPosition(); pos != nullptr;)
-    {
-        m_pTranslationCache->GetNextAssoc(pos, section, keys);
-        auto* keyMap = static_cast<CMapStringToPtr*>(keys);
-        for (POSITION pos2 = keyMap->GetStartPosition(); pos2 != nullptr;)
-        {
-            keyMap->GetNextAssoc(pos2, key, entry);
-            delete static_cast<TranslationEntry*>(entry);
-        }
-        delete keyMap;
-    }
+    ForEachAssoc(*m_pTranslationCache,
+                 [](const CString&, void* keys)
+                 {
+                     auto* keyMap = static_cast<CMapStringToPtr*>(keys);
+                     ForEachAssoc(*keyMap,
+                                  [](const CString&, void* entry) { delete static_cast<TranslationEntry*>(entry); });
+                     delete keyMap;
+                 });
     m_pTranslationCache->RemoveAll();
 }
 

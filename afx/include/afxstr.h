@@ -3,7 +3,6 @@
 #pragma once
 
 #include "afxver_.h"
-#include "SubstringRange.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -373,10 +372,13 @@ public:
     }
     CStringT Mid(int iFirst, int nCount) const
     {
-        kiv::rules::SubstringRange r = kiv::rules::ClampSubstring(GetLength(), iFirst, nCount);
-        if (r.first == 0 && r.count == GetLength())
+        // Never a range outside the text, and no overflow of iFirst + nCount.
+        int length = GetLength();
+        iFirst = iFirst < 0 ? 0 : iFirst > length ? length : iFirst;
+        nCount = nCount < 0 ? 0 : nCount > length - iFirst ? length - iFirst : nCount;
+        if (iFirst == 0 && nCount == length)
             return *this;
-        return CStringT(GetString() + r.first, r.count);
+        return CStringT(GetString() + iFirst, nCount);
     }
     CStringT Left(int nCount) const
     {

@@ -1,6 +1,6 @@
 // kivstore64.dll, the language-string store: one gettext PO file per language in the store
 // folder (setting "Store"/"Directory", default "lang" beside the program). Callers load the
-// library by name and look the five functions up under the decorated names below.
+// library by name and look the five functions up under the decorated names of KivSiblings.h.
 //
 // Narrow arguments are NUL-terminated text in the ANSI code page, wide ones UTF-16. Changes are
 // kept in memory and written when the library is unloaded (or the process ends); each file is
@@ -9,7 +9,7 @@
 // it, a PO file too, and join the file once it can be read and replaced again.
 #pragma once
 
-#include <afx.h>
+#include "KivSiblings.h"
 
 // Results of the int functions: 0 is done, anything else says why not.
 enum KivStoreResult
@@ -37,21 +37,3 @@ int InsertLanguageString(const char* defaultText, const wchar_t* translatedText,
                          const char* section, const char* key);
 // Replaces the translation of a held entry in its place.
 int UpdateLanguageString(const wchar_t* translatedText, const char* languageId, const char* section, const char* key);
-
-typedef CString (*KivGetLanguageIDProc)(const char*);
-typedef CStringW** (*KivGetLanguageStringsProc)(const char*);
-typedef int (*KivGetLanguageStringProc)(const char*, const char*, const char*, CStringW*);
-typedef int (*KivInsertLanguageStringProc)(const char*, const wchar_t*, const char*, const char*, const char*);
-typedef int (*KivUpdateLanguageStringProc)(const wchar_t*, const char*, const char*, const char*);
-
-constexpr char kKivStoreLibrary[] = "kivstore64.dll";
-
-// The names callers request, in the short decoration ("PBD", "PBG", "PAV").
-constexpr char kGetLanguageIDExport[] =
-    "?GetLanguageID@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@PBD@Z";
-constexpr char kGetLanguageStringsExport[] =
-    "?GetLanguageStrings@@YAPAPAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@PBD@Z";
-constexpr char kGetLanguageStringExport[] =
-    "?GetLanguageString@@YAHPBD00PAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@@Z";
-constexpr char kInsertLanguageStringExport[] = "?InsertLanguageString@@YAHPBDPBG000@Z";
-constexpr char kUpdateLanguageStringExport[] = "?UpdateLanguageString@@YAHPBGPBD11@Z";

@@ -11,6 +11,7 @@ using kiv::rules::PoChange;
 using kiv::rules::PoEntry;
 using kiv::rules::PoRecord;
 using kiv::rules::WithoutByteOrderMark;
+using namespace kiv::siblings;
 
 namespace
 {
@@ -32,19 +33,19 @@ struct LanguageStore::RecordTable
 std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::vector<PoRecord>& records)
 {
     auto table = std::make_unique<RecordTable>();
-    table->strings.reset(new CStringW[records.size() * 4]);
+    table->strings.reset(new CStringW[records.size() * kRecordFields]);
     table->slots.assign(records.size() + 1, nullptr);
     for (std::size_t i = 0; i < records.size(); ++i)
     {
-        CStringW* record = &table->strings[i * 4];
-        table->block.Assign(record[0], records[i].defaultText);
-        table->block.Assign(record[1], records[i].translation);
-        table->block.Assign(record[2], records[i].key);
+        CStringW* record = &table->strings[i * kRecordFields];
+        table->block.Assign(record[kRecordDefaultText], records[i].defaultText);
+        table->block.Assign(record[kRecordTranslation], records[i].translation);
+        table->block.Assign(record[kRecordKey], records[i].key);
         // Records of one section mostly follow each other and share its string.
         if (i > 0 && records[i].section == records[i - 1].section)
-            record[3] = table->slots[i - 1][3];
+            record[kRecordSection] = table->slots[i - 1][kRecordSection];
         else
-            table->block.Assign(record[3], records[i].section);
+            table->block.Assign(record[kRecordSection], records[i].section);
         table->slots[i] = record;
     }
     return table;

@@ -6,6 +6,8 @@
 #include "LanguageStore.h"
 #include "TextConversion.h"
 
+#include <type_traits>
+
 namespace
 {
 
@@ -112,6 +114,13 @@ int UpdateLanguageString(const wchar_t* translatedText, const char* languageId, 
                        return store.Update(languageId, context, msgstr);
                    });
 }
+
+// Each export has the type that the contract gives its callers.
+static_assert(std::is_same_v<decltype(&GetLanguageID), kiv::siblings::GetLanguageIDFn>);
+static_assert(std::is_same_v<decltype(&GetLanguageStrings), kiv::siblings::GetLanguageStringsFn>);
+static_assert(std::is_same_v<decltype(&GetLanguageString), kiv::siblings::GetLanguageStringFn>);
+static_assert(std::is_same_v<decltype(&InsertLanguageString), kiv::siblings::InsertLanguageStringFn>);
+static_assert(std::is_same_v<decltype(&UpdateLanguageString), kiv::siblings::UpdateLanguageStringFn>);
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved)
 {

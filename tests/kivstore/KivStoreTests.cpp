@@ -3,6 +3,8 @@
 #include "StoreTest.h"
 #include "PoText.h"
 
+using namespace kiv::siblings;
+
 namespace
 {
 

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+using namespace kiv::siblings;
+
 namespace
 {
 
@@ -16,7 +18,7 @@ constexpr int kRuns = 7;
 
 struct Store
 {
-    HMODULE library = ::LoadLibraryA(kKivStoreLibrary);
+    HMODULE library = ::LoadLibraryA(kStoreLibrary);
     template <typename Proc> Proc Get(const char* name)
     {
         return reinterpret_cast<Proc>(::GetProcAddress(library, name));
@@ -62,8 +64,8 @@ double StartUp()
 {
     double start = Now();
     Store store;
-    CString id = store.Get<KivGetLanguageIDProc>(kGetLanguageIDExport)("German");
-    CStringW** table = store.Get<KivGetLanguageStringsProc>(kGetLanguageStringsExport)(id);
+    CString id = store.Get<GetLanguageIDFn>(kGetLanguageIDExport)("German");
+    CStringW** table = store.Get<GetLanguageStringsFn>(kGetLanguageStringsExport)(id);
     int length = 0;
     for (CStringW** record = table; record && *record; ++record)
         length += (*record)[1].GetLength();
@@ -77,8 +79,8 @@ double SaveNewTexts(int texts)
     double start = Now();
     {
         Store store;
-        auto get = store.Get<KivGetLanguageStringProc>(kGetLanguageStringExport);
-        auto insert = store.Get<KivInsertLanguageStringProc>(kInsertLanguageStringExport);
+        auto get = store.Get<GetLanguageStringFn>(kGetLanguageStringExport);
+        auto insert = store.Get<InsertLanguageStringFn>(kInsertLanguageStringExport);
         char section[16], key[16], text[64];
         for (int i = 0; i < texts; ++i)
         {

@@ -4,12 +4,14 @@
 
 #include "KivStore.h"
 
+using namespace kiv::siblings;
+
 int main(int argc, char** argv)
 {
     if (argc != 5)
         return 2;
-    HMODULE library = ::LoadLibraryA(kKivStoreLibrary);
-    auto insert = reinterpret_cast<KivInsertLanguageStringProc>(::GetProcAddress(library, kInsertLanguageStringExport));
+    HMODULE library = ::LoadLibraryA(kStoreLibrary);
+    auto insert = reinterpret_cast<InsertLanguageStringFn>(::GetProcAddress(library, kInsertLanguageStringExport));
     if (!insert)
         return 3;
     CStringW translation(argv[2]);

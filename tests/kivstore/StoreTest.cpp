@@ -1,5 +1,7 @@
 #include "StoreTest.h"
 
+using namespace kiv::siblings;
+
 namespace
 {
 
@@ -68,13 +70,13 @@ void StoreTest::TearDown()
 void StoreTest::Load()
 {
     ASSERT_EQ(nullptr, m_library);
-    m_library = ::LoadLibraryA(kKivStoreLibrary);
+    m_library = ::LoadLibraryA(kStoreLibrary);
     ASSERT_NE(nullptr, m_library);
-    m_getId = reinterpret_cast<KivGetLanguageIDProc>(::GetProcAddress(m_library, kGetLanguageIDExport));
-    m_getStrings = reinterpret_cast<KivGetLanguageStringsProc>(::GetProcAddress(m_library, kGetLanguageStringsExport));
-    m_get = reinterpret_cast<KivGetLanguageStringProc>(::GetProcAddress(m_library, kGetLanguageStringExport));
-    m_insert = reinterpret_cast<KivInsertLanguageStringProc>(::GetProcAddress(m_library, kInsertLanguageStringExport));
-    m_update = reinterpret_cast<KivUpdateLanguageStringProc>(::GetProcAddress(m_library, kUpdateLanguageStringExport));
+    m_getId = reinterpret_cast<GetLanguageIDFn>(::GetProcAddress(m_library, kGetLanguageIDExport));
+    m_getStrings = reinterpret_cast<GetLanguageStringsFn>(::GetProcAddress(m_library, kGetLanguageStringsExport));
+    m_get = reinterpret_cast<GetLanguageStringFn>(::GetProcAddress(m_library, kGetLanguageStringExport));
+    m_insert = reinterpret_cast<InsertLanguageStringFn>(::GetProcAddress(m_library, kInsertLanguageStringExport));
+    m_update = reinterpret_cast<UpdateLanguageStringFn>(::GetProcAddress(m_library, kUpdateLanguageStringExport));
     ASSERT_TRUE(m_getId && m_getStrings && m_get && m_insert && m_update);
 }
 
@@ -85,7 +87,7 @@ void StoreTest::Unload()
     ::FreeLibrary(m_library);
     m_library = nullptr;
     // The writes happen at unloading, so the tests must really unload.
-    EXPECT_EQ(nullptr, ::GetModuleHandleA(kKivStoreLibrary));
+    EXPECT_EQ(nullptr, ::GetModuleHandleA(kStoreLibrary));
 }
 
 void StoreTest::WriteSettings(const std::string& text)

@@ -51,11 +51,11 @@ protected:
 private:
     std::string m_folder;
     std::string m_settings;
-    KivGetLanguageIDProc m_getId = nullptr;
-    KivGetLanguageStringsProc m_getStrings = nullptr;
-    KivGetLanguageStringProc m_get = nullptr;
-    KivInsertLanguageStringProc m_insert = nullptr;
-    KivUpdateLanguageStringProc m_update = nullptr;
+    kiv::siblings::GetLanguageIDFn m_getId = nullptr;
+    kiv::siblings::GetLanguageStringsFn m_getStrings = nullptr;
+    kiv::siblings::GetLanguageStringFn m_get = nullptr;
+    kiv::siblings::InsertLanguageStringFn m_insert = nullptr;
+    kiv::siblings::UpdateLanguageStringFn m_update = nullptr;
 };
 
 // The folder of the running test program, with a trailing separator.

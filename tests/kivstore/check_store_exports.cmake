@@ -1,4 +1,4 @@
-# The store exports the five decorated names of its header, and nothing else.
+# The store exports the five store names of the sibling contract, and nothing else.
 execute_process(COMMAND ${OBJDUMP} -p ${DLL} OUTPUT_VARIABLE dump RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)
   message(FATAL_ERROR "objdump failed on ${DLL}")
@@ -12,6 +12,7 @@ string(REGEX MATCH "^[^\n]*\n(\t\\[ *[0-9]+\\] [^\n]*\n)*" table "${table}")
 string(REGEX MATCHALL "\\[ *[0-9]+\\] [^\n]+" exported "${table}")
 file(READ ${HEADER} header)
 string(REGEX MATCHALL "\"\\?[^\"]+\"" names "${header}")
+list(FILTER names EXCLUDE REGEX "kivGetIniString")
 list(LENGTH exported count)
 list(LENGTH names expected)
 if(NOT count EQUAL 5 OR NOT expected EQUAL 5)

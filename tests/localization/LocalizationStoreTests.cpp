@@ -3,6 +3,7 @@
 // arrangement in which a library or one of its names is missing.
 #include "LocalizationTestSupport.h"
 
+#include "ImageTables.h"
 #include "KivSiblings.h"
 
 #include <algorithm>
@@ -22,19 +23,32 @@ std::vector<std::string> Lines(std::initializer_list<std::string> lines)
 
 } // namespace
 
-TEST_F(LocalizationManager, ExportNamesAreTheDecoratedOnes)
+// The names the manager requests, written out here as the libraries must export them, and
+// read back from the export tables of the real siblings and of the store double.
+TEST_F(LocalizationManager, SiblingExportTablesHoldTheDecoratedNames)
 {
-    using namespace kiv::siblings;
-    EXPECT_STREQ("?kivGetIniString@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@QEBD00@Z",
-                 kIniReaderExport);
-    EXPECT_STREQ("?GetLanguageID@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@PBD@Z",
-                 kGetLanguageIDExport);
-    EXPECT_STREQ("?GetLanguageStrings@@YAPAPAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@PBD@Z",
-                 kGetLanguageStringsExport);
-    EXPECT_STREQ("?GetLanguageString@@YAHPBD00PAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@@Z",
-                 kGetLanguageStringExport);
-    EXPECT_STREQ("?InsertLanguageString@@YAHPBDPBG000@Z", kInsertLanguageStringExport);
-    EXPECT_STREQ("?UpdateLanguageString@@YAHPBGPBD11@Z", kUpdateLanguageStringExport);
+    const std::vector<std::string> storeNames = {
+        "?GetLanguageID@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@PBD@Z",
+        "?GetLanguageString@@YAHPBD00PAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@@Z",
+        "?GetLanguageStrings@@YAPAPAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@PBD@Z",
+        "?InsertLanguageString@@YAHPBDPBG000@Z",
+        "?UpdateLanguageString@@YAHPBGPBD11@Z"};
+    const std::vector<std::string> utilNames = {
+        "?kivGetIniString@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@QEBD00@Z"};
+    for (const char* arrangement : {"real", "recording"})
+    {
+        UseLibraries(arrangement);
+        HMODULE store = ::LoadLibraryA("kivstore64.dll");
+        HMODULE util = ::LoadLibraryA("kivutil64.dll");
+        ASSERT_NE(nullptr, store) << arrangement;
+        ASSERT_NE(nullptr, util) << arrangement;
+        std::vector<std::string> exported = kiv_test::ExportNames(store);
+        std::sort(exported.begin(), exported.end());
+        EXPECT_EQ(storeNames, exported) << arrangement;
+        EXPECT_EQ(utilNames, kiv_test::ExportNames(util)) << arrangement;
+        ::FreeLibrary(store);
+        ::FreeLibrary(util);
+    }
 }
 
 TEST_F(LocalizationManager, SiblingLibrariesExportTheRequestedNames)

@@ -14,9 +14,10 @@
 // without records; GetLanguageString answers 1 for a triple not listed.
 //
 // Log: one line a call, the function's name and then its arguments, escaped the same way.
-#include <afx.h>
+#include "KivSiblings.h"
 
 #include <array>
+#include <type_traits>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -202,7 +203,7 @@ void BuildTable(const Answers& answers)
     g_fields.clear();
     g_table.clear();
     size_t count = answers.records.size() + (size_t)answers.generated;
-    g_fields.reserve(count * 4);
+    g_fields.reserve(count * kiv::siblings::kRecordFields);
     for (const auto& record : answers.records)
         for (const std::wstring& field : record)
             g_fields.emplace_back(field.c_str());
@@ -217,7 +218,7 @@ void BuildTable(const Answers& answers)
         g_fields.emplace_back(std::to_wstring(i / 1000).c_str());
     }
     for (size_t i = 0; i < count; ++i)
-        g_table.push_back(&g_fields[i * 4]);
+        g_table.push_back(&g_fields[i * kiv::siblings::kRecordFields]);
     g_table.push_back(nullptr);
 }
 
@@ -272,3 +273,10 @@ extern "C" int RecordingUpdateLanguageString(const wchar_t* translatedText, cons
                  FromAnsi(section), FromAnsi(key)});
     return 0;
 }
+
+// The double answers through the same types as the store it stands in for.
+static_assert(std::is_same_v<decltype(&RecordingGetLanguageID), kiv::siblings::GetLanguageIDFn>);
+static_assert(std::is_same_v<decltype(&RecordingGetLanguageStrings), kiv::siblings::GetLanguageStringsFn>);
+static_assert(std::is_same_v<decltype(&RecordingGetLanguageString), kiv::siblings::GetLanguageStringFn>);
+static_assert(std::is_same_v<decltype(&RecordingInsertLanguageString), kiv::siblings::InsertLanguageStringFn>);
+static_assert(std::is_same_v<decltype(&RecordingUpdateLanguageString), kiv::siblings::UpdateLanguageStringFn>);
