@@ -7,6 +7,7 @@
 #include "KivMFCEntry.h"
 #include "KivMFCResource.h"
 #include "LocalizationManager.h"
+#include "KivLoadStoreTranslations.h"
 #include "strString.h"
 #include "strStringW.h"
 #include "strFilename.h"

@@ -66,4 +66,13 @@ std::size_t Utf16Length(std::string_view utf8) noexcept
     return n;
 }
 
+std::string_view FirstCharacter(std::string_view utf8) noexcept
+{
+    if (utf8.empty())
+        return utf8;
+    unsigned char lead = static_cast<unsigned char>(utf8[0]);
+    std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 1;
+    return utf8.substr(0, size);
+}
+
 } // namespace kiv::rules

@@ -59,6 +59,9 @@ template <typename Unit> bool AppendUtf8(const Unit* units, std::size_t n, std::
 // UTF-16 units needed for well-formed UTF-8 text.
 std::size_t Utf16Length(std::string_view utf8) noexcept;
 
+// The first character of well-formed UTF-8 text (empty for empty text).
+std::string_view FirstCharacter(std::string_view utf8) noexcept;
+
 // Writes the UTF-16 form of well-formed UTF-8 text to out, which holds Utf16Length(utf8) units.
 template <typename Unit> void DecodeUtf8(std::string_view utf8, Unit* out) noexcept
 {

@@ -21,6 +21,7 @@ enum KivStoreResult
     kStoreAlreadyHeld = 4,     // insertion of a string the language already has; nothing changed
     kStoreSetAside = 5,        // the language's file cannot be read; the change went to its side file
     kStoreKeptTranslation = 6, // an empty text does not replace a translation; nothing changed
+    kStoreEchoNotWritten = 7,  // an insertion that only echoes the first units of a held record
 };
 
 // The id (PO file name without extension) of the language that the setting names: the id

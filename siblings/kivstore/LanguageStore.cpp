@@ -4,6 +4,8 @@
 #include "StringBlock.h"
 #include "TextConversion.h"
 
+#include "Utf8.h"
+
 #include <cstdio>
 
 using kiv::rules::PoCatalog;
@@ -18,6 +20,22 @@ namespace
 
 constexpr char kSideFileSuffix[] = ".pending";
 constexpr std::size_t kHeaderReadLimit = 64 * 1024;
+
+// The four echoed fields of a record as one string; U+0004 is in no stored text.
+std::string EchoKey(std::string_view defaultText, std::string_view translation, std::string_view key,
+                    std::string_view section)
+{
+    std::string joined;
+    for (std::string_view field : {defaultText, translation, key, section})
+        joined.append(field).push_back('\x04');
+    return joined;
+}
+
+std::string EchoOf(const PoRecord& record)
+{
+    return EchoKey(FirstUnitEcho(record.defaultText, true), FirstUnitEcho(record.translation, false),
+                   FirstUnitEcho(record.key, true), FirstUnitEcho(record.section, true));
+}
 
 } // namespace
 
@@ -64,6 +82,9 @@ struct LanguageStore::Language
     std::string mergedSideFile; // its bytes, so that it is removed only if nobody added to it since
     std::vector<std::unique_ptr<RecordTable>> tables; // every table handed out stays valid until unloading
     bool tableCurrent = false;
+    // What a caller that keeps one unit of each field of the records hands back; made on demand.
+    std::unordered_set<std::string> echoes;
+    bool echoesCurrent = false;
 };
 
 LanguageStore::LanguageStore(std::string folder) : m_folder(std::move(folder))
@@ -145,10 +166,18 @@ int LanguageStore::Insert(const char* id, const std::string& context, const std:
         language->changes.push_back(std::move(change));
         return kStoreSetAside;
     }
+    if (IsEcho(*language, context, msgid, msgstr))
+        return kStoreEchoNotWritten;
     if (language->catalog.Insert(context, msgid, msgstr) == PoCatalog::kAlreadyHeld)
         return kStoreAlreadyHeld;
     language->changes.push_back(std::move(change));
     language->tableCurrent = false;
+    if (language->echoesCurrent)
+    {
+        std::string_view held(context);
+        std::size_t split = held.find('\n');
+        language->echoes.insert(EchoOf({msgid, msgstr, held.substr(split + 1), held.substr(0, split)}));
+    }
     return kStoreOk;
 }
 
@@ -172,6 +201,7 @@ int LanguageStore::Update(const char* id, const std::string& context, const std:
     {
         language->changes.push_back(std::move(change));
         language->tableCurrent = false;
+        language->echoesCurrent = false;
     }
     return kStoreOk;
 }
@@ -280,6 +310,30 @@ bool LanguageStore::SetAside(Language& language)
         return false;
     language.changes.clear();
     return true;
+}
+
+// A caller that keeps only the first unit of each field of the records it read hands those
+// back as new texts. Such an insertion (every field at most one unit, a section and key the
+// file lacks, the four units of one of its records) is not written; a real text always is.
+bool LanguageStore::IsEcho(Language& language, const std::string& context, const std::string& msgid,
+                           const std::string& msgstr)
+{
+    std::size_t split = context.find('\n');
+    std::string_view section = std::string_view(context).substr(0, split);
+    std::string_view key = std::string_view(context).substr(split + 1);
+    for (std::string_view field : {std::string_view(msgid), std::string_view(msgstr), key, section})
+        if (kiv::rules::Utf16Length(field) > 1)
+            return false;
+    if (language.catalog.Find(context) != nullptr)
+        return false;
+    if (!language.echoesCurrent)
+    {
+        language.echoes.clear();
+        for (const PoRecord& record : language.catalog.Records())
+            language.echoes.insert(EchoOf(record));
+        language.echoesCurrent = true;
+    }
+    return language.echoes.count(EchoKey(msgid, msgstr, key, section)) != 0;
 }
 
 kiv::rules::PoHeaderInfo LanguageStore::HeaderInfo(const Language& language) const

@@ -6,6 +6,7 @@
 #include "PoCatalog.h"
 
 #include <memory>
+#include <unordered_set>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,7 @@ private:
     void FlushLanguage(Language& language);
     bool SetAside(Language& language);
     kiv::rules::PoHeaderInfo HeaderInfo(const Language& language) const;
+    bool IsEcho(Language& language, const std::string& context, const std::string& msgid, const std::string& msgstr);
 
     std::string m_folder;
     std::vector<std::unique_ptr<Language>> m_languages;

@@ -50,3 +50,24 @@ bool EqualIgnoringCase(const CStringW& a, const CStringW& b)
 {
     return ::CompareStringOrdinal(a, a.GetLength(), b, b.GetLength(), TRUE) == CSTR_EQUAL;
 }
+
+std::string FirstUnitEcho(std::string_view utf8, bool narrow)
+{
+    CStringW first;
+    AssignUtf8(first, kiv::rules::FirstCharacter(utf8));
+    if (first.IsEmpty())
+        return std::string();
+    wchar_t unit = first[0];
+    std::string echo;
+    if (!narrow)
+    {
+        if (unit >= 0xD800 && unit <= 0xDFFF)
+            return "\xEF\xBF\xBD";
+        kiv::rules::AppendUtf8(&unit, 1, echo);
+        return echo;
+    }
+    char ansi[8] = {};
+    int n = ::WideCharToMultiByte(CP_ACP, 0, &unit, 1, ansi, sizeof(ansi) - 1, nullptr, nullptr);
+    ansi[n > 0 ? n : 0] = 0;
+    return AnsiToUtf8(ansi);
+}

@@ -15,3 +15,7 @@ void AssignUtf8(CStringW& target, std::string_view utf8);
 CStringW AnsiToWide(const char* text);
 // Equal under the system's case mapping, as file names are compared.
 bool EqualIgnoringCase(const CStringW& a, const CStringW& b);
+// What a caller that keeps only the first UTF-16 unit of a text hands back for it: that unit
+// as UTF-8, narrowed through the ANSI code page first when the caller keeps it narrow. A wide
+// unit that is half a surrogate pair gives U+FFFD, which the caller cannot hand back.
+std::string FirstUnitEcho(std::string_view utf8, bool narrow);

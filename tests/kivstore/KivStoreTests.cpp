@@ -742,3 +742,80 @@ TEST_F(KivStore, LanguagesAreWrittenEachToItsOwnFile)
     EXPECT_EQ(kGerman, ReadFile("de.po"));
     EXPECT_EQ(kHeader + Entry("100", "3", "Apply", "Appliquer"), ReadFile("fr.po"));
 }
+
+// A caller that keeps one unit of each field of the records it read hands them back as new
+// texts; those echoes are not written, while a real one-character text is.
+TEST_F(KivStore, EchoOfTheFirstUnitsOfARecordIsNotWritten)
+{
+    const std::string file = std::string(kHeader) + Entry("200", "10", "Hello", "Hallo");
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(kStoreEchoNotWritten, Insert("H", L"H", "de", "2", "1"));
+    EXPECT_STREQ(L"<not held>", Held("de", "2", "1"));
+    Unload();
+    EXPECT_EQ(file, ReadFile("de.po"));
+}
+
+TEST_F(KivStore, EchoOfARecordWithAnEmptyTranslationIsNotWritten)
+{
+    const std::string file = std::string(kHeader) + Entry("STRINGTABLE", "7", "Open", "");
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(kStoreEchoNotWritten, Insert("O", L"", "de", "S", "7"));
+    Unload();
+    EXPECT_EQ(file, ReadFile("de.po"));
+}
+
+TEST_F(KivStore, EchoOfANonAsciiRecordIsRecognisedThroughTheAnsiCodePage)
+{
+    const std::string file = std::string(kHeader) + Entry("\xC3\x9C"
+                                                          "bersicht",
+                                                          "Titel", "\xC3\x84nderung", "\xE6\x97\xA5\xE6\x9C\xAC");
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(kStoreEchoNotWritten, Insert("\xC4", L"\x65E5", "de", "\xDC", "T"));
+    Unload();
+    EXPECT_EQ(file, ReadFile("de.po"));
+}
+
+TEST_F(KivStore, OneCharacterTextThatEchoesNoRecordIsWritten)
+{
+    const std::string file = std::string(kHeader) + Entry("200", "10", "Hello", "Hallo");
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(kStoreOk, Insert("X", L"", "de", "2", "1"));
+    EXPECT_EQ(kStoreOk, Insert("H", L"", "de", "2", "2"));
+    Unload();
+    EXPECT_EQ(file + Entry("2", "1", "X", "") + Entry("2", "2", "H", ""), ReadFile("de.po"));
+}
+
+TEST_F(KivStore, EchoWhoseSectionAndKeyTheFileHoldsIsAlreadyHeld)
+{
+    const std::string file = std::string(kHeader) + Entry("2", "1", "A", "B");
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(kStoreAlreadyHeld, Insert("A", L"B", "de", "2", "1"));
+    Unload();
+    EXPECT_EQ(file, ReadFile("de.po"));
+}
+
+TEST_F(KivStore, LongerTextsAreNeverTakenForEchoes)
+{
+    const std::string file = std::string(kHeader) + Entry("200", "10", "Hello", "Hallo");
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(kStoreOk, Insert("Hi", L"H", "de", "2", "1"));
+    Unload();
+    EXPECT_EQ(file + Entry("2", "1", "Hi", "H"), ReadFile("de.po"));
+}
+
+TEST_F(KivStore, TextInsertedInThisRunIsARecordWhoseEchoIsNotWritten)
+{
+    WriteFile("de.po", kHeader);
+    Load();
+    EXPECT_EQ(kStoreOk, Insert("Print", L"", "de", "100", "9"));
+    EXPECT_EQ(kStoreOk, Insert("Q", L"", "de", "5", "5"));
+    EXPECT_EQ(kStoreEchoNotWritten, Insert("P", L"", "de", "1", "9"));
+    Unload();
+    EXPECT_EQ(std::string(kHeader) + Entry("100", "9", "Print", "") + Entry("5", "5", "Q", ""), ReadFile("de.po"));
+}

@@ -79,3 +79,56 @@ TEST_F(LocalizationManager, StoreRecordsArePreloadedOneCharacterPerField)
 }
 
 } // namespace localization_tests
+
+namespace localization_tests
+{
+
+namespace
+{
+
+// A file a translator filled: translated, untranslated and non-ASCII entries, and one the host
+// never asks for.
+const std::string kTranslated = std::string(kHeader) + Entry("100", "1", "OK", "") +
+                                Entry("100", "2", "Cancel", "Abbrechen") +
+                                Entry("100", "3", "Language", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E") +
+                                Entry("300", "5", "Close",
+                                      "Schlie\xC3\x9F"
+                                      "en");
+
+} // namespace
+
+TEST_F(LocalizationManager, StoreTranslationsReachTheCacheInFullWhenTheHostLoadsThem)
+{
+    UseRealStore(kTranslated);
+    Manager* m = Manager::Get();
+    EXPECT_EQ(4, KivLoadStoreTranslations());
+    EXPECT_STREQ(L"Abbrechen", m->GetWideTranslation("Cancel", 2, 100));
+    EXPECT_STREQ("Abbrechen", m->GetTranslation("Cancel", 2, 100));
+    EXPECT_STREQ(L"\x65E5\x672C\x8A9E", m->GetWideTranslation("Language", 3, 100));
+    EXPECT_STREQ("OK", m->GetTranslation("OK", 1, 100));
+    ASSERT_NE(nullptr, CachedEntry(m, "300", "5"));
+    EXPECT_STREQ("Close", CachedEntry(m, "300", "5")->defaultText);
+    Manager::Dispose();
+    EXPECT_EQ(kTranslated, LanguageFile());
+}
+
+TEST_F(LocalizationManager, TenHostRunsLeaveTheLanguageFileByteForByteTheSame)
+{
+    UseRealStore(kTranslated);
+    for (int run = 0; run < 10; ++run)
+    {
+        ASSERT_EQ(0u, RunHost()) << "run " << run;
+        ASSERT_EQ(kTranslated, LanguageFile()) << "after run " << run;
+    }
+}
+
+TEST_F(LocalizationManager, HostRunThatAsksForANewTextAddsExactlyThatEntry)
+{
+    UseRealStore(kTranslated);
+    ASSERT_EQ(0u, RunHost("Print"));
+    EXPECT_EQ(kTranslated + Entry("100", "9", "Print", ""), LanguageFile());
+    ASSERT_EQ(0u, RunHost("Print"));
+    EXPECT_EQ(kTranslated + Entry("100", "9", "Print", ""), LanguageFile());
+}
+
+} // namespace localization_tests

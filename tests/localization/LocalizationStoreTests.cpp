@@ -461,3 +461,69 @@ TEST_F(LocalizationManager, IsTranslationModeWithoutTheReaderIsZeroAndKeepsTheLi
 }
 
 } // namespace localization_tests
+
+namespace localization_tests
+{
+
+TEST_F(LocalizationManager, StorePreloadEntersEveryRecordInFull)
+{
+    UseLibraries("recording");
+    WriteStore("language\tGerman\tde\nrecord\tHello\tHallo\t10\t200\nrecord\tOpen\t\t7\tSTRINGTABLE\n");
+    WriteSetting("German");
+    Manager* m = Manager::Get();
+    long loaded = LoadedLibraries();
+    EXPECT_EQ(2, KivLoadStoreTranslations());
+    const TranslationEntry* hello = CachedEntry(m, "200", "10");
+    ASSERT_NE(nullptr, hello);
+    EXPECT_STREQ("Hello", hello->defaultText);
+    EXPECT_STREQ(L"Hallo", hello->translatedText);
+    EXPECT_STREQ(L"Hallo", m->GetWideTranslation("Hello", 10, 200));
+    EXPECT_STREQ("Open", m->GetTranslation("Open", "7", "STRINGTABLE"));
+    // The manager's own one-unit entries stay as they were.
+    ASSERT_NE(nullptr, CachedEntry(m, "2", "1"));
+    EXPECT_STREQ(L"H", CachedEntry(m, "2", "1")->translatedText);
+    EXPECT_EQ(loaded, LoadedLibraries());
+    EXPECT_FALSE(IsLoaded("kivstore64.dll"));
+    EXPECT_EQ(Lines({LogLine({"GetLanguageID", "German"}), LogLine({"GetLanguageStrings", "de"}),
+                     LogLine({"GetLanguageID", "German"}), LogLine({"GetLanguageStrings", "de"})}),
+              StoreLog());
+}
+
+TEST_F(LocalizationManager, StorePreloadWithTranslationOffEntersNothing)
+{
+    UseLibraries("recording");
+    WriteStore("language\tGerman\tde\nrecord\tHello\tHallo\t10\t200\n");
+    WriteSetting("");
+    Manager* m = Manager::Get();
+    EXPECT_EQ(0, KivLoadStoreTranslations());
+    EXPECT_EQ(0, CachedEntryCount(m));
+    EXPECT_EQ(Lines({}), StoreLog());
+}
+
+TEST_F(LocalizationManager, StorePreloadWithoutTheStoreEntersNothing)
+{
+    UseLibraries("util-only");
+    WriteSetting("German");
+    Manager* m = Manager::Get();
+    EXPECT_EQ(0, KivLoadStoreTranslations());
+    EXPECT_EQ(0, CachedEntryCount(m));
+    EXPECT_STREQ("OK", m->GetTranslation("OK", 1, 100));
+}
+
+TEST_F(LocalizationManager, PreloadedEntriesEqualTheStoresAndCauseNoWriteAtDispose)
+{
+    UseLibraries("recording");
+    WriteStore("language\tGerman\tde\nrecord\tHello\tHallo\t10\t200\nstring\tde\t200\t10\tHallo\n");
+    WriteSetting("German");
+    Manager::Get();
+    KivLoadStoreTranslations();
+    Manager::Dispose();
+    std::vector<std::string> log = StoreLog();
+    EXPECT_EQ(0, std::count_if(log.begin(), log.end(),
+                               [](const std::string& line) { return line.rfind("UpdateLanguageString", 0) == 0; }));
+    EXPECT_EQ(0, std::count_if(log.begin(), log.end(),
+                               [](const std::string& line)
+                               { return line.rfind("InsertLanguageString\tHello", 0) == 0; }));
+}
+
+} // namespace localization_tests

@@ -155,6 +155,30 @@ void LocalizationManager::WriteStore(const std::string& control)
     WriteBytes(m_control, control);
 }
 
+DWORD LocalizationManager::RunHost(const std::string& newText)
+{
+    char exe[MAX_PATH];
+    DWORD n = ::GetModuleFileNameA(nullptr, exe, MAX_PATH);
+    std::string program(exe, n);
+    program = program.substr(0, program.rfind('\\') + 1) + "localization_host_run.exe";
+    std::string libraries = BesideProgramFolder("stores") + "real";
+    std::string command = "\"" + program + "\" \"" + libraries + "\"";
+    if (!newText.empty())
+        command += " \"" + newText + "\"";
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process = {};
+    if (!::CreateProcessA(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                          &process))
+        return (DWORD)-1;
+    ::WaitForSingleObject(process.hProcess, 60000);
+    DWORD code = (DWORD)-1;
+    ::GetExitCodeProcess(process.hProcess, &code);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    return code;
+}
+
 void LocalizationManager::UseRealStore(const std::string& languageFile)
 {
     UseLibraries("real");

@@ -63,6 +63,9 @@ protected:
     // language by one of the names in the file's header.
     void UseRealStore(const std::string& languageFile);
     std::string LanguageFile();
+    // Runs localization_host_run once with the real siblings (and a new text to ask for, when
+    // given) and answers its exit code.
+    DWORD RunHost(const std::string& newText = std::string());
 
     static bool IsLoaded(const char* library) { return ::GetModuleHandleA(library) != nullptr; }
     static long LoadedLibraries() { return AfxGetModuleState()->m_nLoadedLibraries; }

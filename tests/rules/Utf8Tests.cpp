@@ -63,3 +63,20 @@ TEST(DecodeUtf8, GivesBackTheUnitsThatWereEncoded)
     DecodeUtf8(utf8, decoded);
     EXPECT_EQ(std::u16string(units, 10), std::u16string(decoded, 10));
 }
+
+TEST(FirstCharacter, TakesOneWholeCharacterOfEachLength)
+{
+    using kiv::rules::FirstCharacter;
+    EXPECT_EQ("", FirstCharacter(""));
+    EXPECT_EQ("H", FirstCharacter("Hallo"));
+    EXPECT_EQ("\xC3\x9C", FirstCharacter("\xC3\x9C"
+                                         "bersetzung"));
+    EXPECT_EQ("\xE6\x97\xA5", FirstCharacter("\xE6\x97\xA5\xE6\x9C\xAC"));
+    EXPECT_EQ("\xF0\x9F\x98\x80", FirstCharacter("\xF0\x9F\x98\x80!"));
+}
+
+TEST(FirstCharacter, NeverReachesPastACutText)
+{
+    // Callers hand well-formed text; a cut one still yields no more than it holds.
+    EXPECT_EQ("\xE6\x97", kiv::rules::FirstCharacter("\xE6\x97"));
+}
