@@ -36,3 +36,4 @@ AFX_API CHandleMap* AFXAPI afxMapHWND();
 AFX_API CHandleMap* AFXAPI afxMapHMENU();
 AFX_API CHandleMap* AFXAPI afxMapHDC();
 AFX_API CHandleMap* AFXAPI afxMapHGDIOBJ();
+AFX_API CHandleMap* AFXAPI afxMapHIMAGELIST();

@@ -51,16 +51,26 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
     return FALSE;
 }
 
-BOOL CWinThread::PumpMessage()
+namespace {
+
+// One message of the queue, offered for translation first; FALSE once WM_QUIT arrives.
+BOOL PumpInto(MSG& msg)
 {
-    if (!::GetMessageA(&m_msgCur, nullptr, 0, 0))
+    if (!::GetMessageA(&msg, nullptr, 0, 0))
         return FALSE;
-    if (!AfxPreTranslateMessage(&m_msgCur))
+    if (!AfxPreTranslateMessage(&msg))
     {
-        ::TranslateMessage(&m_msgCur);
-        ::DispatchMessageA(&m_msgCur);
+        ::TranslateMessage(&msg);
+        ::DispatchMessageA(&msg);
     }
     return TRUE;
+}
+
+}  // namespace
+
+BOOL CWinThread::PumpMessage()
+{
+    return PumpInto(m_msgCur);
 }
 
 BOOL CWinThread::IsIdleMessage(MSG* pMsg)
@@ -150,14 +160,7 @@ BOOL AFXAPI AfxPumpMessage()
     if (CWinThread* pThread = AfxGetThread())
         return pThread->PumpMessage();
     MSG msg;
-    if (!::GetMessageA(&msg, nullptr, 0, 0))
-        return FALSE;
-    if (!AfxPreTranslateMessage(&msg))
-    {
-        ::TranslateMessage(&msg);
-        ::DispatchMessageA(&msg);
-    }
-    return TRUE;
+    return PumpInto(msg);
 }
 
 void AFXAPI AfxPostQuitMessage(int nExitCode)

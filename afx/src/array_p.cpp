@@ -47,6 +47,18 @@ void ResizeArray(T*& pData, INT_PTR& nSize, INT_PTR& nMaxSize, INT_PTR nGrowBy, 
     nSize = nNewSize;
 }
 
+// Moves the elements after a removed run down over it; answers how many were removed.
+template <typename T> INT_PTR CloseGap(T* pData, INT_PTR nSize, INT_PTR nIndex, INT_PTR nCount)
+{
+    if (nIndex < 0 || nCount <= 0 || nIndex >= nSize)
+        return 0;
+    if (nCount > nSize - nIndex)
+        nCount = nSize - nIndex;
+    for (INT_PTR i = nIndex; i + nCount < nSize; ++i)
+        pData[i] = pData[i + nCount];
+    return nCount;
+}
+
 }  // namespace
 
 CPtrArray::~CPtrArray()
@@ -125,13 +137,7 @@ void CPtrArray::InsertAt(INT_PTR nIndex, void* newElement, INT_PTR nCount)
 
 void CPtrArray::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
 {
-    if (nIndex < 0 || nCount <= 0 || nIndex >= m_nSize)
-        return;
-    if (nCount > m_nSize - nIndex)
-        nCount = m_nSize - nIndex;
-    for (INT_PTR i = nIndex; i + nCount < m_nSize; ++i)
-        m_pData[i] = m_pData[i + nCount];
-    m_nSize -= nCount;
+    m_nSize -= CloseGap(m_pData, m_nSize, nIndex, nCount);
 }
 
 CStringArray::~CStringArray()
@@ -164,11 +170,7 @@ INT_PTR CStringArray::Add(const CString& newElement)
 
 void CStringArray::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
 {
-    if (nIndex < 0 || nCount <= 0 || nIndex >= m_nSize)
-        return;
-    if (nCount > m_nSize - nIndex)
-        nCount = m_nSize - nIndex;
-    for (INT_PTR i = nIndex; i + nCount < m_nSize; ++i)
-        m_pData[i] = m_pData[i + nCount];
-    SetSize(m_nSize - nCount);
+    // Through SetSize, so the strings left past the end are emptied.
+    if (INT_PTR nRemoved = CloseGap(m_pData, m_nSize, nIndex, nCount))
+        SetSize(m_nSize - nRemoved);
 }

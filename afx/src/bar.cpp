@@ -154,7 +154,7 @@ CDialogBar::CDialogBar() = default;
 
 CDialogBar::~CDialogBar()
 {
-    if (m_hWnd != nullptr && afxMapHWND()->LookupPermanent(m_hWnd) == this)
+    if (CTypedHandleMap<CWnd>::OwnsHandle(this))
         DestroyWindow();
 }
 

@@ -19,19 +19,6 @@ BOOL AFXAPI AfxInitCommonControls()
 
 // Image lists
 
-namespace {
-
-CObject* PASCAL NewImageList() { return new CImageList; }
-void PASCAL SetImageListHandle(CObject* p, HANDLE h) { static_cast<CImageList*>(p)->m_hImageList = (HIMAGELIST)h; }
-
-CHandleMap* MapImageList()
-{
-    static thread_local CHandleMap* pMap = new CHandleMap(NewImageList, SetImageListHandle);
-    return pMap;
-}
-
-}  // namespace
-
 CImageList::~CImageList()
 {
     DeleteImageList();
@@ -45,30 +32,22 @@ __attribute__((noinline)) HIMAGELIST CImageList::GetSafeHandle() const
 
 CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList)
 {
-    return static_cast<CImageList*>(MapImageList()->FromHandle(hImageList));
+    return CTypedHandleMap<CImageList>::FromHandle(hImageList);
 }
 
 CImageList* PASCAL CImageList::FromHandlePermanent(HIMAGELIST hImageList)
 {
-    return static_cast<CImageList*>(MapImageList()->LookupPermanent(hImageList));
+    return CTypedHandleMap<CImageList>::FromHandlePermanent(hImageList);
 }
 
 BOOL CImageList::Attach(HIMAGELIST hImageList)
 {
-    if (hImageList == nullptr)
-        return FALSE;
-    m_hImageList = hImageList;
-    MapImageList()->SetPermanent(hImageList, this);
-    return TRUE;
+    return CTypedHandleMap<CImageList>::Attach(this, hImageList);
 }
 
 HIMAGELIST CImageList::Detach()
 {
-    HIMAGELIST hImageList = m_hImageList;
-    if (hImageList != nullptr && MapImageList()->LookupPermanent(hImageList) == this)
-        MapImageList()->RemoveHandle(hImageList);
-    m_hImageList = nullptr;
-    return hImageList;
+    return CTypedHandleMap<CImageList>::Detach(this);
 }
 
 BOOL CImageList::DeleteImageList()
@@ -239,10 +218,7 @@ void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return AfxChildNotifyDrawItem(this, message, wParam, lParam, pResult);
 }
 
 // List views
@@ -371,8 +347,5 @@ void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return AfxChildNotifyDrawItem(this, message, wParam, lParam, pResult);
 }

@@ -7,6 +7,24 @@ IMPLEMENT_DYNAMIC(CEdit, CWnd)
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
+namespace {
+
+// The text of a list item, by the length and text messages of a list box or a combo box; an
+// index out of range gives an empty string.
+void ListItemText(HWND hWnd, UINT nLenMsg, UINT nTextMsg, int nIndex, CString& rString)
+{
+    int nLen = (int)::SendMessageA(hWnd, nLenMsg, (WPARAM)nIndex, 0);
+    if (nLen < 0)
+    {
+        rString.Empty();
+        return;
+    }
+    ::SendMessageA(hWnd, nTextMsg, (WPARAM)nIndex, (LPARAM)rString.GetBufferSetLength(nLen));
+    rString.ReleaseBuffer();
+}
+
+}  // namespace
+
 CStatic::~CStatic() = default;
 CButton::~CButton() = default;
 CEdit::~CEdit() = default;
@@ -24,10 +42,7 @@ void CStatic::DrawItem(LPDRAWITEMSTRUCT)
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return AfxChildNotifyDrawItem(this, message, wParam, lParam, pResult);
 }
 
 BOOL CButton::Create(LPCSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -41,11 +56,7 @@ void CButton::DrawItem(LPDRAWITEMSTRUCT)
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    // An owner-drawn button paints through its own DrawItem.
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    DrawItem((LPDRAWITEMSTRUCT)lParam);
-    return TRUE;
+    return AfxChildNotifyDrawItem(this, message, wParam, lParam, pResult);
 }
 
 BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -76,14 +87,7 @@ BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nI
 
 void CListBox::GetText(int nIndex, CString& rString) const
 {
-    int nLen = (int)SendMessage(LB_GETTEXTLEN, (WPARAM)nIndex);
-    if (nLen < 0)
-    {
-        rString.Empty();
-        return;
-    }
-    SendMessage(LB_GETTEXT, (WPARAM)nIndex, (LPARAM)rString.GetBufferSetLength(nLen));
-    rString.ReleaseBuffer();
+    ListItemText(m_hWnd, LB_GETTEXTLEN, LB_GETTEXT, nIndex, rString);
 }
 
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -93,12 +97,5 @@ BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT n
 
 void CComboBox::GetLBText(int nIndex, CString& rString) const
 {
-    int nLen = (int)SendMessage(CB_GETLBTEXTLEN, (WPARAM)nIndex);
-    if (nLen < 0)
-    {
-        rString.Empty();
-        return;
-    }
-    SendMessage(CB_GETLBTEXT, (WPARAM)nIndex, (LPARAM)rString.GetBufferSetLength(nLen));
-    rString.ReleaseBuffer();
+    ListItemText(m_hWnd, CB_GETLBTEXTLEN, CB_GETLBTEXT, nIndex, rString);
 }

@@ -44,7 +44,7 @@ CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
 
 CDialog::~CDialog()
 {
-    if (m_hWnd != nullptr && afxMapHWND()->LookupPermanent(m_hWnd) == this)
+    if (CTypedHandleMap<CWnd>::OwnsHandle(this))
         DestroyWindow();
 }
 
@@ -126,14 +126,19 @@ INT_PTR CDialog::DoModal()
             SetWindowPos(nullptr, 0, 0, 0, 0,
                          SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     }
-    m_nFlags &= ~WF_CONTINUEMODAL;
-    if (bEnableParent)
-        ::EnableWindow(hWndParent, TRUE);
-    if (hWndParent != nullptr && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(hWndParent);
-    DestroyWindow();
+    AfxPostModal(this, hWndParent, bEnableParent);
     m_hWndTop = nullptr;
     return m_nModalResult;
+}
+
+void AfxPostModal(CWnd* pWnd, HWND hWndParent, BOOL bEnableParent)
+{
+    pWnd->m_nFlags &= ~WF_CONTINUEMODAL;
+    if (bEnableParent)
+        ::EnableWindow(hWndParent, TRUE);
+    if (hWndParent != nullptr && ::GetActiveWindow() == pWnd->m_hWnd)
+        ::SetActiveWindow(hWndParent);
+    pWnd->DestroyWindow();
 }
 
 void CDialog::EndDialog(int nResult)

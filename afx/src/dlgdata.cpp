@@ -80,6 +80,18 @@ void TextNumber(CDataExchange* pDX, int nIDC, long long& value, BOOL bSigned, lo
     ::SetWindowTextA(hWndCtrl, szBuffer);
 }
 
+// A control whose value one message reads and another writes (a check state, a selection).
+void ExchangeByMessages(CDataExchange* pDX, int nIDC, int& value, UINT nGetMsg, UINT nSetMsg)
+{
+    if (pDX->m_bFailed)
+        return;
+    HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = (int)::SendMessageA(hWndCtrl, nGetMsg, 0, 0);
+    else
+        ::SendMessageA(hWndCtrl, nSetMsg, (WPARAM)value, 0);
+}
+
 }  // namespace
 
 void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, CString& value)
@@ -113,13 +125,7 @@ void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value)
 
 void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value)
 {
-    if (pDX->m_bFailed)
-        return;
-    HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        value = (int)::SendMessageA(hWndCtrl, BM_GETCHECK, 0, 0);
-    else
-        ::SendMessageA(hWndCtrl, BM_SETCHECK, (WPARAM)value, 0);
+    ExchangeByMessages(pDX, nIDC, value, BM_GETCHECK, BM_SETCHECK);
 }
 
 void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
@@ -152,24 +158,12 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
 
 void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index)
 {
-    if (pDX->m_bFailed)
-        return;
-    HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        index = (int)::SendMessageA(hWndCtrl, CB_GETCURSEL, 0, 0);
-    else
-        ::SendMessageA(hWndCtrl, CB_SETCURSEL, (WPARAM)index, 0);
+    ExchangeByMessages(pDX, nIDC, index, CB_GETCURSEL, CB_SETCURSEL);
 }
 
 void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index)
 {
-    if (pDX->m_bFailed)
-        return;
-    HWND hWndCtrl = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        index = (int)::SendMessageA(hWndCtrl, LB_GETCURSEL, 0, 0);
-    else
-        ::SendMessageA(hWndCtrl, LB_SETCURSEL, (WPARAM)index, 0);
+    ExchangeByMessages(pDX, nIDC, index, LB_GETCURSEL, LB_SETCURSEL);
 }
 
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl)

@@ -19,7 +19,7 @@ CFrameWnd::CFrameWnd() = default;
 
 CFrameWnd::~CFrameWnd()
 {
-    if (m_hWnd != nullptr && afxMapHWND()->LookupPermanent(m_hWnd) == this)
+    if (CTypedHandleMap<CWnd>::OwnsHandle(this))
         DestroyWindow();
 }
 

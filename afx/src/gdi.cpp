@@ -26,12 +26,12 @@ __attribute__((noinline)) HDC AFXAPI AfxGetSafeHdc(const CDC* pDC)
 
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject)
 {
-    return static_cast<CGdiObject*>(afxMapHGDIOBJ()->FromHandle(hObject));
+    return CTypedHandleMap<CGdiObject>::FromHandle(hObject);
 }
 
 void PASCAL CGdiObject::DeleteTempMap()
 {
-    afxMapHGDIOBJ()->DeleteTemp();
+    CTypedHandleMap<CGdiObject>::DeleteTemp();
 }
 
 CGdiObject::~CGdiObject()
@@ -41,20 +41,12 @@ CGdiObject::~CGdiObject()
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject)
 {
-    if (hObject == nullptr)
-        return FALSE;
-    m_hObject = hObject;
-    afxMapHGDIOBJ()->SetPermanent(hObject, this);
-    return TRUE;
+    return CTypedHandleMap<CGdiObject>::Attach(this, hObject);
 }
 
 HGDIOBJ CGdiObject::Detach()
 {
-    HGDIOBJ hObject = m_hObject;
-    if (hObject != nullptr && afxMapHGDIOBJ()->LookupPermanent(hObject) == this)
-        afxMapHGDIOBJ()->RemoveHandle(hObject);
-    m_hObject = nullptr;
-    return hObject;
+    return CTypedHandleMap<CGdiObject>::Detach(this);
 }
 
 BOOL CGdiObject::DeleteObject()
@@ -116,14 +108,30 @@ CSize CBitmap::GetBitmapDimension() const
 
 // Device contexts
 
+namespace {
+
+// A setting goes to the output context and, where it is another, to the attribute context,
+// whose previous value is the answer.
+template <typename TResult, typename TFunc> TResult OnBothDCs(const CDC* pDC, TResult failed, TFunc func)
+{
+    TResult result = failed;
+    if (pDC->m_hDC != pDC->m_hAttribDC)
+        result = func(pDC->m_hDC);
+    if (pDC->m_hAttribDC != nullptr)
+        result = func(pDC->m_hAttribDC);
+    return result;
+}
+
+}  // namespace
+
 CDC* PASCAL CDC::FromHandle(HDC hDC)
 {
-    return static_cast<CDC*>(afxMapHDC()->FromHandle(hDC));
+    return CTypedHandleMap<CDC>::FromHandle(hDC);
 }
 
 void PASCAL CDC::DeleteTempMap()
 {
-    afxMapHDC()->DeleteTemp();
+    CTypedHandleMap<CDC>::DeleteTemp();
 }
 
 CDC::~CDC()
@@ -139,20 +147,12 @@ CWnd* CDC::GetWindow() const
 
 BOOL CDC::Attach(HDC hDC)
 {
-    if (hDC == nullptr)
-        return FALSE;
-    m_hDC = m_hAttribDC = hDC;
-    afxMapHDC()->SetPermanent(hDC, this);
-    return TRUE;
+    return CTypedHandleMap<CDC>::Attach(this, hDC);
 }
 
 HDC CDC::Detach()
 {
-    HDC hDC = m_hDC;
-    if (hDC != nullptr && afxMapHDC()->LookupPermanent(hDC) == this)
-        afxMapHDC()->RemoveHandle(hDC);
-    m_hDC = m_hAttribDC = nullptr;
-    return hDC;
+    return CTypedHandleMap<CDC>::Detach(this);
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC)
@@ -194,12 +194,7 @@ BOOL CDC::RestoreDC(int nSavedDC)
 
 HGDIOBJ CDC::SelectObject(HGDIOBJ hObject)
 {
-    HGDIOBJ hOldObj = nullptr;
-    if (m_hDC != m_hAttribDC)
-        hOldObj = ::SelectObject(m_hDC, hObject);
-    if (m_hAttribDC != nullptr)
-        hOldObj = ::SelectObject(m_hAttribDC, hObject);
-    return hOldObj;
+    return OnBothDCs<HGDIOBJ>(this, nullptr, [=](HDC hDC) { return ::SelectObject(hDC, hObject); });
 }
 
 CGdiObject* CDC::SelectGdiObject(HGDIOBJ hObject)
@@ -216,71 +211,38 @@ CGdiObject* CDC::SelectStockObject(int nIndex)
 
 COLORREF CDC::SetTextColor(COLORREF crColor)
 {
-    COLORREF crOld = CLR_INVALID;
-    if (m_hDC != m_hAttribDC)
-        crOld = ::SetTextColor(m_hDC, crColor);
-    if (m_hAttribDC != nullptr)
-        crOld = ::SetTextColor(m_hAttribDC, crColor);
-    return crOld;
+    return OnBothDCs<COLORREF>(this, CLR_INVALID, [=](HDC hDC) { return ::SetTextColor(hDC, crColor); });
 }
 
 COLORREF CDC::SetBkColor(COLORREF crColor)
 {
-    COLORREF crOld = CLR_INVALID;
-    if (m_hDC != m_hAttribDC)
-        crOld = ::SetBkColor(m_hDC, crColor);
-    if (m_hAttribDC != nullptr)
-        crOld = ::SetBkColor(m_hAttribDC, crColor);
-    return crOld;
+    return OnBothDCs<COLORREF>(this, CLR_INVALID, [=](HDC hDC) { return ::SetBkColor(hDC, crColor); });
 }
 
 int CDC::SetBkMode(int nBkMode)
 {
-    int nOld = 0;
-    if (m_hDC != m_hAttribDC)
-        nOld = ::SetBkMode(m_hDC, nBkMode);
-    if (m_hAttribDC != nullptr)
-        nOld = ::SetBkMode(m_hAttribDC, nBkMode);
-    return nOld;
+    return OnBothDCs<int>(this, 0, [=](HDC hDC) { return ::SetBkMode(hDC, nBkMode); });
 }
 
 int CDC::SetROP2(int nDrawMode)
 {
-    int nOld = 0;
-    if (m_hDC != m_hAttribDC)
-        nOld = ::SetROP2(m_hDC, nDrawMode);
-    if (m_hAttribDC != nullptr)
-        nOld = ::SetROP2(m_hAttribDC, nDrawMode);
-    return nOld;
+    return OnBothDCs<int>(this, 0, [=](HDC hDC) { return ::SetROP2(hDC, nDrawMode); });
 }
 
 int CDC::SetMapMode(int nMapMode)
 {
-    int nOld = 0;
-    if (m_hDC != m_hAttribDC)
-        nOld = ::SetMapMode(m_hDC, nMapMode);
-    if (m_hAttribDC != nullptr)
-        nOld = ::SetMapMode(m_hAttribDC, nMapMode);
-    return nOld;
+    return OnBothDCs<int>(this, 0, [=](HDC hDC) { return ::SetMapMode(hDC, nMapMode); });
 }
 
 UINT CDC::SetTextAlign(UINT nFlags)
 {
-    UINT nOld = 0;
-    if (m_hDC != m_hAttribDC)
-        nOld = ::SetTextAlign(m_hDC, nFlags);
-    if (m_hAttribDC != nullptr)
-        nOld = ::SetTextAlign(m_hAttribDC, nFlags);
-    return nOld;
+    return OnBothDCs<UINT>(this, 0, [=](HDC hDC) { return ::SetTextAlign(hDC, nFlags); });
 }
 
 CPoint CDC::SetViewportOrg(int x, int y)
 {
     POINT pt = {0, 0};
-    if (m_hDC != m_hAttribDC)
-        ::SetViewportOrgEx(m_hDC, x, y, &pt);
-    if (m_hAttribDC != nullptr)
-        ::SetViewportOrgEx(m_hAttribDC, x, y, &pt);
+    OnBothDCs<BOOL>(this, FALSE, [&](HDC hDC) { return ::SetViewportOrgEx(hDC, x, y, &pt); });
     return pt;
 }
 
@@ -293,31 +255,18 @@ CPoint CDC::GetViewportOrg() const
 
 int CDC::IntersectClipRect(int x1, int y1, int x2, int y2)
 {
-    int nRetVal = ERROR;
-    if (m_hDC != m_hAttribDC)
-        nRetVal = ::IntersectClipRect(m_hDC, x1, y1, x2, y2);
-    if (m_hAttribDC != nullptr)
-        nRetVal = ::IntersectClipRect(m_hAttribDC, x1, y1, x2, y2);
-    return nRetVal;
+    return OnBothDCs<int>(this, ERROR, [=](HDC hDC) { return ::IntersectClipRect(hDC, x1, y1, x2, y2); });
 }
 
 int CDC::ExcludeClipRect(int x1, int y1, int x2, int y2)
 {
-    int nRetVal = ERROR;
-    if (m_hDC != m_hAttribDC)
-        nRetVal = ::ExcludeClipRect(m_hDC, x1, y1, x2, y2);
-    if (m_hAttribDC != nullptr)
-        nRetVal = ::ExcludeClipRect(m_hAttribDC, x1, y1, x2, y2);
-    return nRetVal;
+    return OnBothDCs<int>(this, ERROR, [=](HDC hDC) { return ::ExcludeClipRect(hDC, x1, y1, x2, y2); });
 }
 
 CPoint CDC::MoveTo(int x, int y)
 {
     POINT pt = {0, 0};
-    if (m_hDC != m_hAttribDC)
-        ::MoveToEx(m_hDC, x, y, &pt);
-    if (m_hAttribDC != nullptr)
-        ::MoveToEx(m_hAttribDC, x, y, &pt);
+    OnBothDCs<BOOL>(this, FALSE, [&](HDC hDC) { return ::MoveToEx(hDC, x, y, &pt); });
     return pt;
 }
 

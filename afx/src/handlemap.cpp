@@ -74,41 +74,36 @@ INT_PTR CHandleMap::GetTemporaryCount() const
     return (INT_PTR)m_pImpl->temporary.size();
 }
 
-namespace {
-
-CObject* PASCAL NewWnd() { return new CWnd; }
-CObject* PASCAL NewMenu() { return new CMenu; }
-CObject* PASCAL NewDC() { return new CDC; }
-CObject* PASCAL NewGdiObject() { return new CGdiObject; }
-
-void PASCAL SetWndHandle(CObject* p, HANDLE h) { static_cast<CWnd*>(p)->m_hWnd = (HWND)h; }
-void PASCAL SetMenuHandle(CObject* p, HANDLE h) { static_cast<CMenu*>(p)->m_hMenu = (HMENU)h; }
-void PASCAL SetDCHandle(CObject* p, HANDLE h)
-{
-    static_cast<CDC*>(p)->m_hDC = (HDC)h;
-    static_cast<CDC*>(p)->m_hAttribDC = (HDC)h;
-}
-void PASCAL SetGdiHandle(CObject* p, HANDLE h) { static_cast<CGdiObject*>(p)->m_hObject = (HGDIOBJ)h; }
-
-CHandleMap* Map(CHandleMap*& slot, CHandleMap::PFN_CREATE pfnCreate, CHandleMap::PFN_SETHANDLE pfnSet)
-{
-    if (slot == nullptr)
-        slot = new CHandleMap(pfnCreate, pfnSet);
-    return slot;
-}
-
-}  // namespace
-
 AfxThreadState* AfxGetThreadState()
 {
     static thread_local AfxThreadState state;
     return &state;
 }
 
-CHandleMap* AFXAPI afxMapHWND() { return Map(AfxGetThreadState()->m_pmapHWND, NewWnd, SetWndHandle); }
-CHandleMap* AFXAPI afxMapHMENU() { return Map(AfxGetThreadState()->m_pmapHMENU, NewMenu, SetMenuHandle); }
-CHandleMap* AFXAPI afxMapHDC() { return Map(AfxGetThreadState()->m_pmapHDC, NewDC, SetDCHandle); }
-CHandleMap* AFXAPI afxMapHGDIOBJ() { return Map(AfxGetThreadState()->m_pmapHGDIOBJ, NewGdiObject, SetGdiHandle); }
+CHandleMap* AFXAPI afxMapHWND()
+{
+    return CTypedHandleMap<CWnd>::GetOrCreate(AfxGetThreadState()->m_pmapHWND);
+}
+
+CHandleMap* AFXAPI afxMapHMENU()
+{
+    return CTypedHandleMap<CMenu>::GetOrCreate(AfxGetThreadState()->m_pmapHMENU);
+}
+
+CHandleMap* AFXAPI afxMapHDC()
+{
+    return CTypedHandleMap<CDC>::GetOrCreate(AfxGetThreadState()->m_pmapHDC);
+}
+
+CHandleMap* AFXAPI afxMapHGDIOBJ()
+{
+    return CTypedHandleMap<CGdiObject>::GetOrCreate(AfxGetThreadState()->m_pmapHGDIOBJ);
+}
+
+CHandleMap* AFXAPI afxMapHIMAGELIST()
+{
+    return CTypedHandleMap<CImageList>::GetOrCreate(AfxGetThreadState()->m_pmapHIMAGELIST);
+}
 
 void AFXAPI AfxLockTempMaps()
 {
@@ -126,6 +121,7 @@ BOOL AFXAPI AfxUnlockTempMaps(BOOL bDeleteTemps)
             CMenu::DeleteTempMap();
             CDC::DeleteTempMap();
             CGdiObject::DeleteTempMap();
+            CTypedHandleMap<CImageList>::DeleteTemp();
         }
         return TRUE;
     }

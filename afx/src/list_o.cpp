@@ -1,5 +1,5 @@
 // CObList: doubly linked list of CObject pointers, nodes taken from blocks.
-#include "afxcoll.h"
+#include "collimpl_.h"
 
 IMPLEMENT_DYNAMIC(CObList, CObject)
 
@@ -22,15 +22,7 @@ void CObList::RemoveAll()
 CObList::CNode* CObList::NewNode(CNode* pPrev, CNode* pNext)
 {
     if (m_pNodeFree == nullptr)
-    {
-        CPlex* pNewBlock = CPlex::Create(m_pBlocks, m_nBlockSize, sizeof(CNode));
-        CNode* pNode = static_cast<CNode*>(pNewBlock->data()) + m_nBlockSize - 1;
-        for (INT_PTR i = m_nBlockSize - 1; i >= 0; i--, pNode--)
-        {
-            pNode->pNext = m_pNodeFree;
-            m_pNodeFree = pNode;
-        }
-    }
+        AfxChainNewBlock(m_pBlocks, m_nBlockSize, m_pNodeFree);
     CNode* pNode = m_pNodeFree;
     m_pNodeFree = m_pNodeFree->pNext;
     pNode->pPrev = pPrev;

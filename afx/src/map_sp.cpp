@@ -1,5 +1,5 @@
 // CMapStringToPtr: chained hash table of CString keys, nodes taken from blocks.
-#include "afxcoll.h"
+#include "collimpl_.h"
 
 IMPLEMENT_DYNAMIC(CMapStringToPtr, CObject)
 
@@ -39,16 +39,7 @@ void CMapStringToPtr::RemoveAll()
 CMapStringToPtr::CAssoc* CMapStringToPtr::NewAssoc()
 {
     if (m_pFreeList == nullptr)
-    {
-        CPlex* pNewBlock = CPlex::Create(m_pBlocks, m_nBlockSize, sizeof(CAssoc));
-        // Chain the new nodes into the free list, the first node of the block last.
-        CAssoc* pAssoc = static_cast<CAssoc*>(pNewBlock->data()) + m_nBlockSize - 1;
-        for (INT_PTR i = m_nBlockSize - 1; i >= 0; i--, pAssoc--)
-        {
-            pAssoc->pNext = m_pFreeList;
-            m_pFreeList = pAssoc;
-        }
-    }
+        AfxChainNewBlock(m_pBlocks, m_nBlockSize, m_pFreeList);
     CAssoc* pAssoc = m_pFreeList;
     m_pFreeList = m_pFreeList->pNext;
     m_nCount++;

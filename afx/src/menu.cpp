@@ -15,35 +15,27 @@ CMenu::~CMenu()
 
 CMenu* PASCAL CMenu::FromHandle(HMENU hMenu)
 {
-    return static_cast<CMenu*>(afxMapHMENU()->FromHandle(hMenu));
+    return CTypedHandleMap<CMenu>::FromHandle(hMenu);
 }
 
 CMenu* PASCAL CMenu::FromHandlePermanent(HMENU hMenu)
 {
-    return hMenu == nullptr ? nullptr : static_cast<CMenu*>(afxMapHMENU()->LookupPermanent(hMenu));
+    return CTypedHandleMap<CMenu>::FromHandlePermanent(hMenu);
 }
 
 void PASCAL CMenu::DeleteTempMap()
 {
-    afxMapHMENU()->DeleteTemp();
+    CTypedHandleMap<CMenu>::DeleteTemp();
 }
 
 BOOL CMenu::Attach(HMENU hMenu)
 {
-    if (hMenu == nullptr)
-        return FALSE;
-    m_hMenu = hMenu;
-    afxMapHMENU()->SetPermanent(hMenu, this);
-    return TRUE;
+    return CTypedHandleMap<CMenu>::Attach(this, hMenu);
 }
 
 HMENU CMenu::Detach()
 {
-    HMENU hMenu = m_hMenu;
-    if (hMenu != nullptr && afxMapHMENU()->LookupPermanent(hMenu) == this)
-        afxMapHMENU()->RemoveHandle(hMenu);
-    m_hMenu = nullptr;
-    return hMenu;
+    return CTypedHandleMap<CMenu>::Detach(this);
 }
 
 BOOL CMenu::DestroyMenu()

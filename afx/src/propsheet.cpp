@@ -200,7 +200,7 @@ void CPropertySheet::CommonConstruct(CWnd* pParentWnd, UINT iSelectPage)
 
 CPropertySheet::~CPropertySheet()
 {
-    if (m_hWnd != nullptr && afxMapHWND()->LookupPermanent(m_hWnd) == this)
+    if (CTypedHandleMap<CWnd>::OwnsHandle(this))
         DestroyWindow();
     free(m_pPageData);
 }
@@ -322,12 +322,7 @@ INT_PTR CPropertySheet::DoModal()
     HWND hWnd = StartSheet(hWndParent, TRUE);
     if (hWnd != nullptr && m_hWnd == hWnd && ContinueModal())
         RunModalLoop(MLF_SHOWONIDLE);
-    m_nFlags &= ~WF_CONTINUEMODAL;
-    if (bEnableParent)
-        ::EnableWindow(hWndParent, TRUE);
-    if (hWndParent != nullptr && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(hWndParent);
-    DestroyWindow();
+    AfxPostModal(this, hWndParent, bEnableParent);
     return m_nModalResult;
 }
 

@@ -26,7 +26,7 @@ CWnd::CWnd() = default;
 CWnd::~CWnd()
 {
     // An object that still owns its window takes it along.
-    if (m_hWnd != nullptr && afxMapHWND()->LookupPermanent(m_hWnd) == this)
+    if (CTypedHandleMap<CWnd>::OwnsHandle(this))
         DestroyWindow();
 }
 
@@ -39,35 +39,27 @@ __attribute__((noinline)) HWND AFXAPI AfxGetSafeHwnd(const CWnd* pWnd)
 
 CWnd* PASCAL CWnd::FromHandle(HWND hWnd)
 {
-    return static_cast<CWnd*>(afxMapHWND()->FromHandle(hWnd));
+    return CTypedHandleMap<CWnd>::FromHandle(hWnd);
 }
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd)
 {
-    return hWnd == nullptr ? nullptr : static_cast<CWnd*>(afxMapHWND()->LookupPermanent(hWnd));
+    return CTypedHandleMap<CWnd>::FromHandlePermanent(hWnd);
 }
 
 void PASCAL CWnd::DeleteTempMap()
 {
-    afxMapHWND()->DeleteTemp();
+    CTypedHandleMap<CWnd>::DeleteTemp();
 }
 
 BOOL CWnd::Attach(HWND hWndNew)
 {
-    if (hWndNew == nullptr)
-        return FALSE;
-    m_hWnd = hWndNew;
-    afxMapHWND()->SetPermanent(hWndNew, this);
-    return TRUE;
+    return CTypedHandleMap<CWnd>::Attach(this, hWndNew);
 }
 
 HWND CWnd::Detach()
 {
-    HWND hWnd = m_hWnd;
-    if (hWnd != nullptr && afxMapHWND()->LookupPermanent(hWnd) == this)
-        afxMapHWND()->RemoveHandle(hWnd);
-    m_hWnd = nullptr;
-    return hWnd;
+    return CTypedHandleMap<CWnd>::Detach(this);
 }
 
 BOOL CWnd::SubclassWindow(HWND hWnd)
@@ -222,9 +214,8 @@ BOOL CWnd::DestroyWindow()
 {
     if (m_hWnd == nullptr)
         return FALSE;
-    HWND hWndOrig = m_hWnd;
-    BOOL bPermanent = afxMapHWND()->LookupPermanent(hWndOrig) == this;
-    BOOL bResult = ::DestroyWindow(hWndOrig);
+    BOOL bPermanent = CTypedHandleMap<CWnd>::OwnsHandle(this);
+    BOOL bResult = ::DestroyWindow(m_hWnd);
     // A permanent object was detached (and may be deleted) by WM_NCDESTROY.
     if (!bPermanent)
         Detach();

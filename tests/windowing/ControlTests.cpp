@@ -1,5 +1,6 @@
 // Common controls: tabs, list views, image lists and tooltips.
 #include <afxcmn.h>
+#include <afxpriv.h>
 
 #include "MessageSpy.h"
 #include "PixelProbe.h"
@@ -173,6 +174,25 @@ TEST(CImageList, CreateAddAndDescribeImages)
     HIMAGELIST hList = images.m_hImageList;
     EXPECT_TRUE(images.DeleteImageList());
     EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(hList));
+}
+
+TEST(CImageList, FromHandleOfAnUnownedListIsATemporaryUntilTheMapsUnlock)
+{
+    HIMAGELIST hList = ImageList_Create(4, 4, ILC_COLOR32, 0, 4);
+    ASSERT_NE(nullptr, hList);
+    AfxLockTempMaps();
+    CImageList* pList = CImageList::FromHandle(hList);
+    ASSERT_NE(nullptr, pList);
+    EXPECT_EQ(hList, pList->m_hImageList);
+    EXPECT_EQ(nullptr, CImageList::FromHandlePermanent(hList));
+    EXPECT_EQ(pList, CImageList::FromHandle(hList));
+    EXPECT_EQ(pList, afxMapHIMAGELIST()->LookupTemporary(hList));
+    AfxUnlockTempMaps();
+    EXPECT_EQ(nullptr, afxMapHIMAGELIST()->LookupTemporary(hList));
+    int cx = 0, cy = 0;
+    EXPECT_TRUE(ImageList_GetIconSize(hList, &cx, &cy));  // the list outlived its temporary
+    EXPECT_EQ(4, cx);
+    ImageList_Destroy(hList);
 }
 
 TEST(CImageList, StripFromABitmapResourceOfTheChain)
