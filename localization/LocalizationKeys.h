@@ -5,8 +5,7 @@
 
 #include <afx.h>
 
-namespace kiv::localization
-{
+namespace kiv::localization {
 
 inline CString KeyText(int number)
 {
@@ -18,4 +17,4 @@ inline CString KeyText(int number)
 // The section of message texts and string resources.
 inline constexpr char kStringTableSection[] = "STRINGTABLE";
 
-} // namespace kiv::localization
+}  // namespace kiv::localization

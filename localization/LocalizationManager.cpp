@@ -10,8 +10,7 @@
 using kiv::localization::KeyText;
 using kiv::localization::StoreSession;
 
-namespace
-{
+namespace {
 
 // Nodes of every cache map are allocated ten at a time.
 constexpr INT_PTR kBlockSize = 10;
@@ -87,7 +86,7 @@ private:
     CStringW m_wide[0x80];
 };
 
-} // namespace
+}  // namespace
 
 LocalizationManager* LocalizationManager::m_SingletonInstance = nullptr;
 
@@ -144,12 +143,10 @@ void LocalizationManager::LoadTranslations()
     using namespace kiv::siblings;
     StoreSession store;
     PreloadStrings one;
-    store.ForEachRecord(
-        [&](const CStringW* field)
-        {
-            CacheTranslation(one.Narrow(field[kRecordDefaultText]), one.Wide(field[kRecordTranslation]),
-                             one.Narrow(field[kRecordKey]), one.Narrow(field[kRecordSection]));
-        });
+    store.ForEachRecord([&](const CStringW* field) {
+        CacheTranslation(one.Narrow(field[kRecordDefaultText]), one.Wide(field[kRecordTranslation]),
+                         one.Narrow(field[kRecordKey]), one.Narrow(field[kRecordSection]));
+    });
 }
 
 void LocalizationManager::StoreTranslations()
@@ -157,17 +154,13 @@ void LocalizationManager::StoreTranslations()
     StoreSession store;
     if (store.LanguageId().IsEmpty())
         return;
-    ForEachAssoc(*m_pTranslationCache,
-                 [&](const CString& section, void* keys)
-                 {
-                     ForEachAssoc(*static_cast<CMapStringToPtr*>(keys),
-                                  [&](const CString& key, void* entry)
-                                  {
-                                      const auto* text = static_cast<const TranslationEntry*>(entry);
-                                      if (text != nullptr)
-                                          store.Save(section, key, text->defaultText, text->translatedText);
-                                  });
-                 });
+    ForEachAssoc(*m_pTranslationCache, [&](const CString& section, void* keys) {
+        ForEachAssoc(*static_cast<CMapStringToPtr*>(keys), [&](const CString& key, void* entry) {
+            const auto* text = static_cast<const TranslationEntry*>(entry);
+            if (text != nullptr)
+                store.Save(section, key, text->defaultText, text->translatedText);
+        });
+    });
 }
 
 int LocalizationManager::IsTranslationMode()
@@ -177,14 +170,11 @@ int LocalizationManager::IsTranslationMode()
 
 void LocalizationManager::ClearTranslationCache()
 {
-    ForEachAssoc(*m_pTranslationCache,
-                 [](const CString&, void* keys)
-                 {
-                     auto* keyMap = static_cast<CMapStringToPtr*>(keys);
-                     ForEachAssoc(*keyMap,
-                                  [](const CString&, void* entry) { delete static_cast<TranslationEntry*>(entry); });
-                     delete keyMap;
-                 });
+    ForEachAssoc(*m_pTranslationCache, [](const CString&, void* keys) {
+        auto* keyMap = static_cast<CMapStringToPtr*>(keys);
+        ForEachAssoc(*keyMap, [](const CString&, void* entry) { delete static_cast<TranslationEntry*>(entry); });
+        delete keyMap;
+    });
     m_pTranslationCache->RemoveAll();
 }
 
@@ -196,7 +186,7 @@ TranslationEntry* LocalizationManager::FindTrimmedEntry(LPCSTR key, LPCSTR secti
         !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
         return nullptr;
     auto* found = static_cast<TranslationEntry*>(entry);
-    found->translatedText.Trim(); // the trimmed text stays in the cache
+    found->translatedText.Trim();  // the trimmed text stays in the cache
     return found;
 }
 
@@ -275,7 +265,7 @@ CStringW LocalizationManager::GetWideTranslation(CString defaultText, CString ke
     if (entry != nullptr && !entry->translatedText.IsEmpty())
         return entry->translatedText;
     if (defaultText.IsEmpty())
-        return CStringW(); // an empty default is never recorded by this overload
+        return CStringW();  // an empty default is never recorded by this overload
     CacheTranslation(defaultText, CStringW(), key, section);
     return CStringW(defaultText);
 }

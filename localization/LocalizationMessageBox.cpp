@@ -15,7 +15,7 @@ void LocalizationManager::ShowMessageBox(int id)
 void LocalizationManager::ShowMessageBox(int id, unsigned int type)
 {
     CString text;
-    text.LoadString((UINT)id); // a missing string leaves the text empty
+    text.LoadString((UINT)id);  // a missing string leaves the text empty
     ShowMessageBox(text, KeyText(id), CStringW(), type);
 }
 

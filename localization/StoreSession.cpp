@@ -4,11 +4,9 @@
 
 using namespace kiv::siblings;
 
-namespace kiv::localization
-{
+namespace kiv::localization {
 
-namespace
-{
+namespace {
 
 template <typename Fn> Fn Bind(HINSTANCE library, const char* exportName)
 {
@@ -20,7 +18,7 @@ CString ReadLanguageSetting(IniReaderFn read)
     return read("Environment", "LanguageSetting", "");
 }
 
-} // namespace
+}  // namespace
 
 StoreSession::StoreSession()
 {
@@ -35,7 +33,7 @@ StoreSession::StoreSession()
     }
     auto read = Bind<IniReaderFn>(m_util, kIniReaderExport);
     if (read == nullptr)
-        return; // kept: hosts rely on both libraries staying loaded on this path
+        return;  // kept: hosts rely on both libraries staying loaded on this path
     m_release = true;
     CString setting = ReadLanguageSetting(read);
     if (setting.IsEmpty())
@@ -95,11 +93,11 @@ int StoreSession::TranslationMode()
     {
         auto read = Bind<IniReaderFn>(util, kIniReaderExport);
         if (read == nullptr)
-            return 0; // kept: hosts rely on the library staying loaded on this path
+            return 0;  // kept: hosts rely on the library staying loaded on this path
         mode = ReadLanguageSetting(read).IsEmpty() ? 0 : 1;
     }
     AfxFreeLibrary(util);
     return mode;
 }
 
-} // namespace kiv::localization
+}  // namespace kiv::localization

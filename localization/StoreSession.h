@@ -5,8 +5,7 @@
 
 #include <afxwin.h>
 
-namespace kiv::localization
-{
+namespace kiv::localization {
 
 class StoreSession
 {
@@ -46,4 +45,4 @@ private:
     CString m_id;
 };
 
-} // namespace kiv::localization
+}  // namespace kiv::localization

@@ -6,11 +6,9 @@
 #include <functional>
 #include <unordered_set>
 
-namespace kiv::rules
-{
+namespace kiv::rules {
 
-namespace
-{
+namespace {
 
 // Marks a side-file entry that changes a translation only: its default text is not known.
 constexpr std::string_view kUpdateOnlyComment = "#. translation update; the default text is not known";
@@ -18,10 +16,9 @@ constexpr std::string_view kUtf8ContentType = "Content-Type: text/plain; charset
 
 bool EqualNoCase(std::string_view a, std::string_view b) noexcept
 {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(),
-                      [](char x, char y)
-                      { return (x >= 'A' && x <= 'Z' ? x | 0x20 : x) == (y >= 'A' && y <= 'Z' ? y | 0x20 : y); });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+               return (x >= 'A' && x <= 'Z' ? x | 0x20 : x) == (y >= 'A' && y <= 'Z' ? y | 0x20 : y);
+           });
 }
 
 std::string_view Trim(std::string_view s) noexcept
@@ -92,8 +89,9 @@ bool HasRefusedLineFeeds(const PoEntry& entry)
 {
     if (entry.msgid.empty())
         return false;
-    auto differs = [&](std::string_view s)
-    { return StartsWithBreak(s) != StartsWithBreak(entry.msgid) || EndsWithBreak(s) != EndsWithBreak(entry.msgid); };
+    auto differs = [&](std::string_view s) {
+        return StartsWithBreak(s) != StartsWithBreak(entry.msgid) || EndsWithBreak(s) != EndsWithBreak(entry.msgid);
+    };
     if (!entry.hasPlural)
         return !entry.msgstr.empty() && differs(entry.msgstr);
     if (entry.plurals.empty() || entry.plurals[0].empty())
@@ -133,7 +131,7 @@ std::string NewHeader(const PoHeaderInfo& info)
            "Content-Transfer-Encoding: 8bit\n";
 }
 
-} // namespace
+}  // namespace
 
 bool IsStorableText(std::string_view text) noexcept
 {
@@ -416,4 +414,4 @@ void PoCatalog::PrepareHeader(const PoHeaderInfo& info)
     header->MarkChanged();
 }
 
-} // namespace kiv::rules
+}  // namespace kiv::rules

@@ -10,8 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kiv::rules
-{
+namespace kiv::rules {
 
 // A change the store was asked for, kept so that it can be made again on a newer copy of
 // the file or set aside in a side file.
@@ -24,7 +23,7 @@ struct PoChange
     };
     Kind kind = kInsert;
     std::string context;
-    std::string msgid; // the default text of an insertion
+    std::string msgid;  // the default text of an insertion
     std::string msgstr;
     bool operator==(const PoChange&) const = default;
 };
@@ -33,7 +32,7 @@ struct PoChange
 struct PoHeaderInfo
 {
     std::string language;
-    std::string revisionDate; // "YYYY-MM-DD HH:MM+0000"
+    std::string revisionDate;  // "YYYY-MM-DD HH:MM+0000"
 };
 
 // A store record: the four texts of one entry.
@@ -106,10 +105,10 @@ private:
     void Reindex();
 
     PoFile m_file;
-    std::vector<std::uint32_t> m_slots; // entry number + 1, 0 for a free slot
+    std::vector<std::uint32_t> m_slots;  // entry number + 1, 0 for a free slot
     std::size_t m_indexed = 0;
     bool m_sharedContexts = false;
     bool m_changed = false;
 };
 
-} // namespace kiv::rules
+}  // namespace kiv::rules

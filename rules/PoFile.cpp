@@ -7,11 +7,9 @@
 #include <cstdint>
 #include <cstring>
 
-namespace kiv::rules
-{
+namespace kiv::rules {
 
-namespace
-{
+namespace {
 
 constexpr char kContextSeparator = '\x04';
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
@@ -94,10 +92,10 @@ private:
 
     std::string_view m_text;
     PoFile* m_file;
-    std::string m_decoded; // the string being read, decoded
+    std::string m_decoded;  // the string being read, decoded
     std::size_t m_pos = 0;
     int m_line = 1;
-    bool m_checkFields = false; // strings are checked one by one when the whole text was not
+    bool m_checkFields = false;  // strings are checked one by one when the whole text was not
     PoError m_error;
 };
 
@@ -268,7 +266,7 @@ bool PoReader::ReadStrings(std::string_view& value)
 
 bool PoReader::ReadString(bool& decoding, bool& escaped)
 {
-    ++m_pos; // the opening quote
+    ++m_pos;  // the opening quote
     for (;;)
     {
         std::size_t start = m_pos, pos = m_pos;
@@ -296,7 +294,7 @@ bool PoReader::ReadString(bool& decoding, bool& escaped)
 
 bool PoReader::ReadEscape()
 {
-    ++m_pos; // the backslash
+    ++m_pos;  // the backslash
     if (AtEnd())
         return Fail("line end inside a string");
     char c = m_text[m_pos++];
@@ -431,7 +429,7 @@ void AppendEntry(std::string& out, const PoEntry& entry, const std::string& nl)
         AppendField(out, "msgstr[" + std::to_string(i) + "]", entry.plurals[i], nl);
 }
 
-} // namespace
+}  // namespace
 
 bool PoEntry::IsFuzzy() const noexcept
 {
@@ -517,7 +515,7 @@ bool ParsePo(std::string bytes, PoFile& file, PoError* error)
     std::size_t firstBreak = text.find('\n');
     if (firstBreak != std::string_view::npos && firstBreak > 0 && text[firstBreak - 1] == '\r')
         file.m_newline = "\r\n";
-    file.entries.reserve(text.size() / 64); // an entry of the store takes about that much
+    file.entries.reserve(text.size() / 64);  // an entry of the store takes about that much
     PoReader reader(text, &file);
     if (reader.ReadFile())
         return true;
@@ -536,7 +534,7 @@ std::string_view WithoutByteOrderMark(std::string_view bytes) noexcept
 
 bool ParsePoHeader(std::string_view bytes, std::string& header)
 {
-    PoFile pool; // keeps the decoded strings while the entry is read
+    PoFile pool;  // keeps the decoded strings while the entry is read
     PoReader reader(WithoutByteOrderMark(bytes), &pool);
     return reader.ReadHeader(header);
 }
@@ -546,7 +544,7 @@ std::string WritePo(const PoFile& file)
     const std::string& nl = file.Newline();
     std::string out;
     out.reserve(file.Text().size() + 4096);
-    bool afterWritten = false; // the last entry was written from its fields
+    bool afterWritten = false;  // the last entry was written from its fields
     for (const PoEntry& entry : file.entries)
     {
         bool changed = entry.IsChanged();
@@ -623,4 +621,4 @@ void AppendQuoted(std::string& out, std::string_view text)
     out += '"';
 }
 
-} // namespace kiv::rules
+}  // namespace kiv::rules

@@ -12,14 +12,13 @@
 #include <string_view>
 #include <vector>
 
-namespace kiv::rules
-{
+namespace kiv::rules {
 
 class PoFile;
 
 struct PoError
 {
-    int line = 0; // 1-based line of the input where reading stopped
+    int line = 0;  // 1-based line of the input where reading stopped
     std::string message;
 };
 
@@ -30,13 +29,13 @@ bool ParsePo(std::string bytes, PoFile& file, PoError* error = nullptr);
 
 struct PoEntry
 {
-    std::vector<std::string_view> comments; // the '#' lines before the entry, without line ends
+    std::vector<std::string_view> comments;  // the '#' lines before the entry, without line ends
     bool hasContext = false;
-    std::string_view context; // msgctxt
+    std::string_view context;  // msgctxt
     std::string_view msgid;
     bool hasPlural = false;
     std::string_view msgidPlural;
-    std::vector<std::string_view> plurals; // msgstr[0], msgstr[1], ... of an entry with a plural
+    std::vector<std::string_view> plurals;  // msgstr[0], msgstr[1], ... of an entry with a plural
     std::string_view msgstr;
     // The entry's bytes in PoFile::Text(), with the blank lines and comments before it. An empty
     // range marks an entry that is new or changed and is written from its fields.
@@ -62,10 +61,10 @@ public:
 
     // Attributes
     std::string_view Text() const noexcept { return m_text ? std::string_view(*m_text) : std::string_view(); }
-    const std::string& Newline() const noexcept { return m_newline; } // the file's own line end
+    const std::string& Newline() const noexcept { return m_newline; }  // the file's own line end
     std::string_view Trailer() const noexcept { return Text().substr(trailerBegin); }
     const PoEntry* Header() const noexcept;
-    bool operator==(const PoFile& other) const; // entries and trailer
+    bool operator==(const PoFile& other) const;  // entries and trailer
 
     // Operations
     // A lasting copy of text, for the strings of new and changed entries.
@@ -74,12 +73,12 @@ public:
     void SetFuzzy(PoEntry& entry);
 
     std::vector<PoEntry> entries;
-    std::size_t trailerBegin = 0; // blank lines and comments after the last entry, to the end of the text
+    std::size_t trailerBegin = 0;  // blank lines and comments after the last entry, to the end of the text
 
 private:
     friend bool ParsePo(std::string bytes, PoFile& file, PoError* error);
 
-    std::unique_ptr<std::string> m_text; // the bytes read, without byte order mark; stays put when the file moves
+    std::unique_ptr<std::string> m_text;  // the bytes read, without byte order mark; stays put when the file moves
     std::vector<std::unique_ptr<char[]>> m_pool;
     char* m_poolNext = nullptr;
     std::size_t m_poolLeft = 0;
@@ -99,4 +98,4 @@ std::string WritePo(const PoFile& file);
 // control characters.
 void AppendQuoted(std::string& out, std::string_view text);
 
-} // namespace kiv::rules
+}  // namespace kiv::rules

@@ -2,8 +2,7 @@
 
 #include <cstring>
 
-namespace kiv::rules
-{
+namespace kiv::rules {
 
 bool IsValidUtf8(std::string_view text) noexcept
 {
@@ -22,24 +21,24 @@ bool IsValidUtf8(std::string_view text) noexcept
         if (c < 0x80)
             continue;
         int more;
-        unsigned char low = 0x80, high = 0xBF; // bounds of the byte after the lead
+        unsigned char low = 0x80, high = 0xBF;  // bounds of the byte after the lead
         if (c >= 0xC2 && c <= 0xDF)
             more = 1;
         else if (c >= 0xE0 && c <= 0xEF)
         {
             more = 2;
             if (c == 0xE0)
-                low = 0xA0; // overlong
+                low = 0xA0;  // overlong
             else if (c == 0xED)
-                high = 0x9F; // surrogates
+                high = 0x9F;  // surrogates
         }
         else if (c >= 0xF0 && c <= 0xF4)
         {
             more = 3;
             if (c == 0xF0)
-                low = 0x90; // overlong
+                low = 0x90;  // overlong
             else if (c == 0xF4)
-                high = 0x8F; // above U+10FFFF
+                high = 0x8F;  // above U+10FFFF
         }
         else
             return false;
@@ -61,7 +60,7 @@ std::size_t Utf16Length(std::string_view utf8) noexcept
         if ((c & 0xC0) != 0x80)
             ++n;
         if (c >= 0xF0)
-            ++n; // a surrogate pair
+            ++n;  // a surrogate pair
     }
     return n;
 }
@@ -75,4 +74,4 @@ std::string_view FirstCharacter(std::string_view utf8) noexcept
     return utf8.substr(0, size);
 }
 
-} // namespace kiv::rules
+}  // namespace kiv::rules

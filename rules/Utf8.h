@@ -7,8 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace kiv::rules
-{
+namespace kiv::rules {
 
 // True when text is well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
 bool IsValidUtf8(std::string_view text) noexcept;
@@ -90,4 +89,4 @@ template <typename Unit> void DecodeUtf8(std::string_view utf8, Unit* out) noexc
     }
 }
 
-} // namespace kiv::rules
+}  // namespace kiv::rules

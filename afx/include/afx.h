@@ -55,37 +55,48 @@ private:
 #define _RUNTIME_CLASS(class_name) ((CRuntimeClass*)(&class_name::class##class_name))
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 
-#define DECLARE_DYNAMIC(class_name)                            \
-protected:                                                     \
-    static CRuntimeClass* PASCAL _GetBaseClass();              \
-                                                               \
-public:                                                        \
-    static CRuntimeClass class##class_name;                    \
-    static CRuntimeClass* PASCAL GetThisClass();               \
+#define DECLARE_DYNAMIC(class_name)                                                                                    \
+protected:                                                                                                             \
+    static CRuntimeClass* PASCAL _GetBaseClass();                                                                      \
+                                                                                                                       \
+public:                                                                                                                \
+    static CRuntimeClass class##class_name;                                                                            \
+    static CRuntimeClass* PASCAL GetThisClass();                                                                       \
     virtual CRuntimeClass* GetRuntimeClass() const override;
 
-#define DECLARE_DYNCREATE(class_name) \
-    DECLARE_DYNAMIC(class_name)       \
+#define DECLARE_DYNCREATE(class_name)                                                                                  \
+    DECLARE_DYNAMIC(class_name)                                                                                        \
     static CObject* PASCAL CreateObject();
 
-#define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, pfnNew)                       \
-    CRuntimeClass* PASCAL class_name::_GetBaseClass() { return RUNTIME_CLASS(base_class_name); }    \
-    CRuntimeClass class_name::class##class_name = {#class_name, sizeof(class class_name), wSchema, \
-                                                   pfnNew, &class_name::_GetBaseClass, nullptr,    \
-                                                   nullptr};                                       \
-    CRuntimeClass* PASCAL class_name::GetThisClass() { return _RUNTIME_CLASS(class_name); }        \
-    CRuntimeClass* class_name::GetRuntimeClass() const { return _RUNTIME_CLASS(class_name); }      \
+#define IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, pfnNew)                                           \
+    CRuntimeClass* PASCAL class_name::_GetBaseClass()                                                                  \
+    {                                                                                                                  \
+        return RUNTIME_CLASS(base_class_name);                                                                         \
+    }                                                                                                                  \
+    CRuntimeClass class_name::class##class_name = {                                                                    \
+        #class_name, sizeof(class class_name), wSchema, pfnNew, &class_name::_GetBaseClass, nullptr, nullptr};         \
+    CRuntimeClass* PASCAL class_name::GetThisClass()                                                                   \
+    {                                                                                                                  \
+        return _RUNTIME_CLASS(class_name);                                                                             \
+    }                                                                                                                  \
+    CRuntimeClass* class_name::GetRuntimeClass() const                                                                 \
+    {                                                                                                                  \
+        return _RUNTIME_CLASS(class_name);                                                                             \
+    }                                                                                                                  \
     static const AFX_CLASSINIT _init_##class_name(_RUNTIME_CLASS(class_name));
 
-#define IMPLEMENT_DYNAMIC(class_name, base_class_name) \
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                                 \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
-#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                             \
-    CObject* PASCAL class_name::CreateObject() { return new class_name; }            \
+#define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
+    CObject* PASCAL class_name::CreateObject()                                                                         \
+    {                                                                                                                  \
+        return new class_name;                                                                                         \
+    }                                                                                                                  \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, class_name::CreateObject)
 
 #define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
-#define DYNAMIC_DOWNCAST(class_name, object) \
+#define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
     ((object) != nullptr && (object)->IsKindOf(RUNTIME_CLASS(class_name)) ? static_cast<class_name*>(object) : nullptr)
 
 // Simple intrusive list used by the module state for class, factory and library lists.

@@ -83,14 +83,26 @@ public:
     int GetItemCount() const { return (int)SendMessage(TCM_GETITEMCOUNT); }
     LONG InsertItem(int nItem, LPCSTR lpszItem);
     LONG InsertItem(int nItem, LPCSTR lpszItem, int nImage);
-    LONG InsertItem(int nItem, TCITEMA* pTabCtrlItem) { return (LONG)SendMessage(TCM_INSERTITEMA, nItem, (LPARAM)pTabCtrlItem); }
-    BOOL GetItem(int nItem, TCITEMA* pTabCtrlItem) const { return (BOOL)SendMessage(TCM_GETITEMA, nItem, (LPARAM)pTabCtrlItem); }
-    BOOL SetItem(int nItem, TCITEMA* pTabCtrlItem) { return (BOOL)SendMessage(TCM_SETITEMA, nItem, (LPARAM)pTabCtrlItem); }
+    LONG InsertItem(int nItem, TCITEMA* pTabCtrlItem)
+    {
+        return (LONG)SendMessage(TCM_INSERTITEMA, nItem, (LPARAM)pTabCtrlItem);
+    }
+    BOOL GetItem(int nItem, TCITEMA* pTabCtrlItem) const
+    {
+        return (BOOL)SendMessage(TCM_GETITEMA, nItem, (LPARAM)pTabCtrlItem);
+    }
+    BOOL SetItem(int nItem, TCITEMA* pTabCtrlItem)
+    {
+        return (BOOL)SendMessage(TCM_SETITEMA, nItem, (LPARAM)pTabCtrlItem);
+    }
     BOOL DeleteItem(int nItem) { return (BOOL)SendMessage(TCM_DELETEITEM, nItem); }
     BOOL DeleteAllItems() { return (BOOL)SendMessage(TCM_DELETEALLITEMS); }
     int GetCurSel() const { return (int)SendMessage(TCM_GETCURSEL); }
     int SetCurSel(int nItem) { return (int)SendMessage(TCM_SETCURSEL, nItem); }
-    BOOL GetItemRect(int nItem, LPRECT lpRect) const { return (BOOL)SendMessage(TCM_GETITEMRECT, nItem, (LPARAM)lpRect); }
+    BOOL GetItemRect(int nItem, LPRECT lpRect) const
+    {
+        return (BOOL)SendMessage(TCM_GETITEMRECT, nItem, (LPARAM)lpRect);
+    }
     void AdjustRect(BOOL bLarger, LPRECT lpRect) { SendMessage(TCM_ADJUSTRECT, bLarger, (LPARAM)lpRect); }
     CSize SetItemSize(CSize size);
     int GetRowCount() const { return (int)SendMessage(TCM_GETROWCOUNT); }
@@ -114,8 +126,7 @@ public:
     ~CListCtrl() override;
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
-    int InsertColumn(int nCol, LPCSTR lpszColumnHeading, int nFormat = LVCFMT_LEFT, int nWidth = -1,
-                     int nSubItem = -1);
+    int InsertColumn(int nCol, LPCSTR lpszColumnHeading, int nFormat = LVCFMT_LEFT, int nWidth = -1, int nSubItem = -1);
     BOOL DeleteColumn(int nCol) { return (BOOL)SendMessage(LVM_DELETECOLUMN, nCol); }
     int GetColumnWidth(int nCol) const { return (int)SendMessage(LVM_GETCOLUMNWIDTH, nCol); }
     BOOL SetColumnWidth(int nCol, int cx) { return (BOOL)SendMessage(LVM_SETCOLUMNWIDTH, nCol, cx); }
@@ -131,7 +142,10 @@ public:
     DWORD_PTR GetItemData(int nItem) const;
     BOOL SetItemState(int nItem, UINT nState, UINT nMask);
     UINT GetItemState(int nItem, UINT nMask) const { return (UINT)SendMessage(LVM_GETITEMSTATE, nItem, nMask); }
-    int GetNextItem(int nItem, int nFlags) const { return (int)SendMessage(LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0)); }
+    int GetNextItem(int nItem, int nFlags) const
+    {
+        return (int)SendMessage(LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
+    }
     UINT GetSelectedCount() const { return (UINT)SendMessage(LVM_GETSELECTEDCOUNT); }
     BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
     BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref) const;

@@ -40,10 +40,7 @@ template <> struct ChTraitsKiv<char>
     typedef char XCHAR;
     typedef wchar_t YCHAR;
     static int SafeLength(const char* p) noexcept { return p ? (int)strlen(p) : 0; }
-    static bool IsSpace(char c) noexcept
-    {
-        return c == ' ' || (c >= '\t' && c <= '\r');
-    }
+    static bool IsSpace(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
     static int Compare(const char* a, const char* b) noexcept { return strcmp(a, b); }
     static int CompareNoCase(const char* a, const char* b) noexcept { return _stricmp(a, b); }
     static int Collate(const char* a, const char* b) noexcept { return strcoll(a, b); }
@@ -208,7 +205,11 @@ public:
         if (GetData()->IsLocked())
             GetData()->nRefs = 1;
     }
-    void Preallocate(int nLength) { GetBuffer(nLength); ReleaseBuffer(GetLength()); }
+    void Preallocate(int nLength)
+    {
+        GetBuffer(nLength);
+        ReleaseBuffer(GetLength());
+    }
     void FreeExtra()
     {
         if (GetData()->IsNil() || GetLength() == GetData()->nAllocLength)
@@ -836,7 +837,10 @@ typedef CStringT<wchar_t> CStringW;
 typedef CStringA CString;  // multi-byte build
 
 // Narrow/wide conversion of a whole string in the ANSI code page.
-template <typename T> inline CStringT<T> AfxConvertString(const CStringT<T>& s) { return s; }
+template <typename T> inline CStringT<T> AfxConvertString(const CStringT<T>& s)
+{
+    return s;
+}
 
 // Extracts the iSubString-th field of lpszFullString separated by chSep.
 AFX_API BOOL AFXAPI AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString, char chSep = '\n');

@@ -44,6 +44,7 @@
 #define AFX_INLINE_NOEXCEPT noexcept
 #endif
 
-struct __POSITION {};
+struct __POSITION
+{};
 typedef __POSITION* POSITION;
 #define BEFORE_START_POSITION ((POSITION)-1L)

@@ -18,8 +18,7 @@ INT_PTR GrowStep(INT_PTR nGrowBy, INT_PTR nSize)
 }
 
 // Resizes an array's storage; new elements are value-initialised, dropped ones emptied.
-template <typename T>
-void ResizeArray(T*& pData, INT_PTR& nSize, INT_PTR& nMaxSize, INT_PTR nGrowBy, INT_PTR nNewSize)
+template <typename T> void ResizeArray(T*& pData, INT_PTR& nSize, INT_PTR& nMaxSize, INT_PTR nGrowBy, INT_PTR nNewSize)
 {
     if (nNewSize <= 0)
     {

@@ -10,8 +10,8 @@ IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 BOOL AFXAPI AfxInitCommonControls()
 {
     static BOOL bDone = [] {
-        INITCOMMONCONTROLSEX icc = {sizeof(icc), ICC_WIN95_CLASSES | ICC_TAB_CLASSES | ICC_LISTVIEW_CLASSES |
-                                                     ICC_BAR_CLASSES};
+        INITCOMMONCONTROLSEX icc = {sizeof(icc),
+                                    ICC_WIN95_CLASSES | ICC_TAB_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
         return ::InitCommonControlsEx(&icc);
     }();
     return bDone;
@@ -212,9 +212,7 @@ CImageList* CTabCtrl::SetImageList(CImageList* pImageList)
     return CImageList::FromHandle((HIMAGELIST)SendMessage(TCM_SETIMAGELIST, 0, (LPARAM)pImageList->GetSafeHandle()));
 }
 
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
@@ -341,9 +339,7 @@ CImageList* CListCtrl::GetImageList(int nImageList) const
     return CImageList::FromHandle((HIMAGELIST)SendMessage(LVM_GETIMAGELIST, nImageList));
 }
 
-void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-}
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {

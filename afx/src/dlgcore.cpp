@@ -39,8 +39,7 @@ CDialog::CDialog(LPCSTR lpszTemplateName, CWnd* pParentWnd) : m_pParentWnd(pPare
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
     : m_lpszTemplateName(MAKEINTRESOURCEA(nIDTemplate)), m_nIDHelp(nIDTemplate), m_pParentWnd(pParentWnd)
-{
-}
+{}
 
 CDialog::~CDialog()
 {
@@ -123,8 +122,7 @@ INT_PTR CDialog::DoModal()
         if (m_nFlags & WF_CONTINUEMODAL)
             RunModalLoop(MLF_SHOWONIDLE | ((GetStyle() & DS_NOIDLEMSG) ? MLF_NOIDLEMSG : 0));
         if (m_hWnd != nullptr)
-            SetWindowPos(nullptr, 0, 0, 0, 0,
-                         SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+            SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     }
     AfxPostModal(this, hWndParent, bEnableParent);
     m_hWndTop = nullptr;
@@ -155,9 +153,7 @@ BOOL CDialog::OnInitDialog()
     return TRUE;
 }
 
-void CDialog::OnSetFont(CFont*)
-{
-}
+void CDialog::OnSetFont(CFont*) {}
 
 void CDialog::OnOK()
 {

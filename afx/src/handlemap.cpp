@@ -11,8 +11,7 @@ struct CHandleMap::Impl
 
 CHandleMap::CHandleMap(PFN_CREATE pfnCreate, PFN_SETHANDLE pfnSetHandle)
     : m_pImpl(new Impl), m_pfnCreate(pfnCreate), m_pfnSetHandle(pfnSetHandle)
-{
-}
+{}
 
 CHandleMap::~CHandleMap()
 {

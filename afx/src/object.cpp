@@ -3,9 +3,18 @@
 
 CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr, nullptr, nullptr, nullptr};
 
-CRuntimeClass* PASCAL CObject::_GetBaseClass() { return nullptr; }
-CRuntimeClass* PASCAL CObject::GetThisClass() { return _RUNTIME_CLASS(CObject); }
-CRuntimeClass* CObject::GetRuntimeClass() const { return _RUNTIME_CLASS(CObject); }
+CRuntimeClass* PASCAL CObject::_GetBaseClass()
+{
+    return nullptr;
+}
+CRuntimeClass* PASCAL CObject::GetThisClass()
+{
+    return _RUNTIME_CLASS(CObject);
+}
+CRuntimeClass* CObject::GetRuntimeClass() const
+{
+    return _RUNTIME_CLASS(CObject);
+}
 
 BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const
 {

@@ -99,13 +99,9 @@ BOOL CPropertyPage::OnKillActive()
     return UpdateData(TRUE);
 }
 
-void CPropertyPage::OnOK()
-{
-}
+void CPropertyPage::OnOK() {}
 
-void CPropertyPage::OnCancel()
-{
-}
+void CPropertyPage::OnCancel() {}
 
 BOOL CPropertyPage::OnApply()
 {

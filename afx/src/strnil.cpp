@@ -18,4 +18,3 @@ CStringData* AFXAPI AfxGetNilStringData()
 {
     return &g_nil.data;
 }
-

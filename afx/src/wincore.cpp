@@ -2,7 +2,6 @@
 // reflection to child objects.
 #include "afximpl_.h"
 
-
 // Signed coordinates packed in a message parameter.
 #define GET_X_LPARAM(lp) ((int)(short)LOWORD(lp))
 #define GET_Y_LPARAM(lp) ((int)(short)HIWORD(lp))
@@ -87,9 +86,7 @@ HWND CWnd::UnsubclassWindow()
     return Detach();
 }
 
-void CWnd::PreSubclassWindow()
-{
-}
+void CWnd::PreSubclassWindow() {}
 
 // Creation
 
@@ -171,8 +168,8 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCTA& cs)
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x, int y,
                     int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam)
 {
-    CREATESTRUCTA cs = {lpParam, AfxGetInstanceHandle(), nIDorHMenu, hWndParent, nHeight, nWidth, y, x,
-                        (LONG)dwStyle, lpszWindowName, lpszClassName, dwExStyle};
+    CREATESTRUCTA cs = {lpParam, AfxGetInstanceHandle(), nIDorHMenu,     hWndParent,    nHeight,  nWidth, y,
+                        x,       (LONG)dwStyle,          lpszWindowName, lpszClassName, dwExStyle};
     if (!PreCreateWindow(cs))
     {
         PostNcDestroy();
@@ -244,9 +241,7 @@ void CWnd::OnNcDestroy()
     PostNcDestroy();
 }
 
-void CWnd::PostNcDestroy()
-{
-}
+void CWnd::PostNcDestroy() {}
 
 // The window procedure
 
@@ -396,8 +391,8 @@ LRESULT CWnd::DispatchWindowMessage(const AFX_MSGMAP_ENTRY* pEntry, UINT message
         CDCWrap dc(pCtl->hDC);
         CWnd wndTemp(pCtl->hWnd);
         CWnd* pWnd = FromHandlePermanent(pCtl->hWnd);
-        HBRUSH hbr = (this->*WndHandler<HBRUSH (CWnd::*)(CDC*, CWnd*, UINT)>(pfn))(&dc, pWnd ? pWnd : &wndTemp,
-                                                                                  pCtl->nCtlType);
+        HBRUSH hbr =
+            (this->*WndHandler<HBRUSH (CWnd::*)(CDC*, CWnd*, UINT)>(pfn))(&dc, pWnd ? pWnd : &wndTemp, pCtl->nCtlType);
         wndTemp.m_hWnd = nullptr;
         return (LRESULT)hbr;
     }
@@ -411,7 +406,7 @@ LRESULT CWnd::DispatchWindowMessage(const AFX_MSGMAP_ENTRY* pEntry, UINT message
         return (this->*WndHandler<LRESULT (CWnd::*)(CPoint)>(pfn))(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
     case AfxSig_v_u_p:
         (this->*WndHandler<void (CWnd::*)(UINT, CPoint)>(pfn))((UINT)wParam,
-                                                              CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+                                                               CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
         return 0;
     case AfxSig_v_W:
         (this->*WndHandler<void (CWnd::*)(CWnd*)>(pfn))(
@@ -442,7 +437,7 @@ LRESULT CWnd::DispatchWindowMessage(const AFX_MSGMAP_ENTRY* pEntry, UINT message
         return 0;
     case AfxSig_b_W_u_u:
         return (this->*WndHandler<BOOL (CWnd::*)(CWnd*, UINT, UINT)>(pfn))(FromHandle((HWND)wParam), LOWORD(lParam),
-                                                                            HIWORD(lParam));
+                                                                           HIWORD(lParam));
     case AfxSig_v_u_u_u:
         (this->*WndHandler<void (CWnd::*)(UINT, UINT, UINT)>(pfn))((UINT)wParam, LOWORD(lParam), HIWORD(lParam));
         return 0;
@@ -455,7 +450,7 @@ LRESULT CWnd::DispatchWindowMessage(const AFX_MSGMAP_ENTRY* pEntry, UINT message
         return 0;
     case AfxSig_v_W_p:
         (this->*WndHandler<void (CWnd::*)(CWnd*, CPoint)>(pfn))(FromHandle((HWND)wParam),
-                                                               CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+                                                                CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
         return 0;
     case AfxSig_v_MINMAX:
         (this->*WndHandler<void (CWnd::*)(MINMAXINFO*)>(pfn))((MINMAXINFO*)lParam);
@@ -703,40 +698,128 @@ BOOL PASCAL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
 
 // Default handlers: the message goes on to the previous procedure.
 
-void CWnd::OnPaint() { Default(); }
-void CWnd::OnDestroy() { Default(); }
-void CWnd::OnClose() { Default(); }
-int CWnd::OnCreate(LPCREATESTRUCT) { return (int)Default(); }
-BOOL CWnd::OnEraseBkgnd(CDC*) { return (BOOL)Default(); }
-LRESULT CWnd::OnNcHitTest(CPoint) { return Default(); }
-void CWnd::OnMouseMove(UINT, CPoint) { Default(); }
-void CWnd::OnLButtonDown(UINT, CPoint) { Default(); }
-void CWnd::OnLButtonUp(UINT, CPoint) { Default(); }
-void CWnd::OnLButtonDblClk(UINT, CPoint) { Default(); }
-void CWnd::OnRButtonDown(UINT, CPoint) { Default(); }
-void CWnd::OnRButtonUp(UINT, CPoint) { Default(); }
-void CWnd::OnCaptureChanged(CWnd*) { Default(); }
-void CWnd::OnSetFocus(CWnd*) { Default(); }
-void CWnd::OnKillFocus(CWnd*) { Default(); }
-void CWnd::OnEnable(BOOL) { Default(); }
-void CWnd::OnSize(UINT, int, int) { Default(); }
-void CWnd::OnTimer(UINT_PTR) { Default(); }
-BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT) { return (BOOL)Default(); }
-void CWnd::OnKeyDown(UINT, UINT, UINT) { Default(); }
-void CWnd::OnChar(UINT, UINT, UINT) { Default(); }
-void CWnd::OnShowWindow(BOOL, UINT) { Default(); }
-void CWnd::OnInitMenuPopup(CMenu*, UINT, BOOL) { Default(); }
-void CWnd::OnContextMenu(CWnd*, CPoint) { Default(); }
-void CWnd::OnGetMinMaxInfo(MINMAXINFO*) { Default(); }
-void CWnd::OnSysCommand(UINT, LPARAM) { Default(); }
-void CWnd::OnWindowPosChanging(WINDOWPOS*) { Default(); }
-void CWnd::OnWindowPosChanged(WINDOWPOS*) { Default(); }
-void CWnd::OnActivate(UINT, CWnd*, BOOL) { Default(); }
-UINT CWnd::OnGetDlgCode() { return (UINT)Default(); }
-
-void CWnd::DoDataExchange(CDataExchange*)
+void CWnd::OnPaint()
 {
+    Default();
 }
+void CWnd::OnDestroy()
+{
+    Default();
+}
+void CWnd::OnClose()
+{
+    Default();
+}
+int CWnd::OnCreate(LPCREATESTRUCT)
+{
+    return (int)Default();
+}
+BOOL CWnd::OnEraseBkgnd(CDC*)
+{
+    return (BOOL)Default();
+}
+LRESULT CWnd::OnNcHitTest(CPoint)
+{
+    return Default();
+}
+void CWnd::OnMouseMove(UINT, CPoint)
+{
+    Default();
+}
+void CWnd::OnLButtonDown(UINT, CPoint)
+{
+    Default();
+}
+void CWnd::OnLButtonUp(UINT, CPoint)
+{
+    Default();
+}
+void CWnd::OnLButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+void CWnd::OnRButtonDown(UINT, CPoint)
+{
+    Default();
+}
+void CWnd::OnRButtonUp(UINT, CPoint)
+{
+    Default();
+}
+void CWnd::OnCaptureChanged(CWnd*)
+{
+    Default();
+}
+void CWnd::OnSetFocus(CWnd*)
+{
+    Default();
+}
+void CWnd::OnKillFocus(CWnd*)
+{
+    Default();
+}
+void CWnd::OnEnable(BOOL)
+{
+    Default();
+}
+void CWnd::OnSize(UINT, int, int)
+{
+    Default();
+}
+void CWnd::OnTimer(UINT_PTR)
+{
+    Default();
+}
+BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT)
+{
+    return (BOOL)Default();
+}
+void CWnd::OnKeyDown(UINT, UINT, UINT)
+{
+    Default();
+}
+void CWnd::OnChar(UINT, UINT, UINT)
+{
+    Default();
+}
+void CWnd::OnShowWindow(BOOL, UINT)
+{
+    Default();
+}
+void CWnd::OnInitMenuPopup(CMenu*, UINT, BOOL)
+{
+    Default();
+}
+void CWnd::OnContextMenu(CWnd*, CPoint)
+{
+    Default();
+}
+void CWnd::OnGetMinMaxInfo(MINMAXINFO*)
+{
+    Default();
+}
+void CWnd::OnSysCommand(UINT, LPARAM)
+{
+    Default();
+}
+void CWnd::OnWindowPosChanging(WINDOWPOS*)
+{
+    Default();
+}
+void CWnd::OnWindowPosChanged(WINDOWPOS*)
+{
+    Default();
+}
+void CWnd::OnActivate(UINT, CWnd*, BOOL)
+{
+    Default();
+}
+UINT CWnd::OnGetDlgCode()
+{
+    return (UINT)Default();
+}
+
+void CWnd::DoDataExchange(CDataExchange*) {}
 
 void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT)
 {

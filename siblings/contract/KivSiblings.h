@@ -6,8 +6,7 @@
 
 #include <afx.h>
 
-namespace kiv::siblings
-{
+namespace kiv::siblings {
 
 inline constexpr char kUtilLibrary[] = "kivutil64.dll";
 inline constexpr char kStoreLibrary[] = "kivstore64.dll";
@@ -52,4 +51,4 @@ enum RecordField
     kRecordFields = 4
 };
 
-} // namespace kiv::siblings
+}  // namespace kiv::siblings

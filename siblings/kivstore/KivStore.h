@@ -15,13 +15,13 @@
 enum KivStoreResult
 {
     kStoreOk = 0,
-    kStoreNotHeld = 1,         // the language has no string for this section and key
-    kStoreUnknownLanguage = 2, // no PO file of that id in the store folder
-    kStoreRefusedText = 3,     // a null section or key, a section with a line feed, U+0004, a lone surrogate
-    kStoreAlreadyHeld = 4,     // insertion of a string the language already has; nothing changed
-    kStoreSetAside = 5,        // the language's file cannot be read; the change went to its side file
-    kStoreKeptTranslation = 6, // an empty text does not replace a translation; nothing changed
-    kStoreEchoNotWritten = 7,  // an insertion that only echoes the first units of a held record
+    kStoreNotHeld = 1,          // the language has no string for this section and key
+    kStoreUnknownLanguage = 2,  // no PO file of that id in the store folder
+    kStoreRefusedText = 3,      // a null section or key, a section with a line feed, U+0004, a lone surrogate
+    kStoreAlreadyHeld = 4,      // insertion of a string the language already has; nothing changed
+    kStoreSetAside = 5,         // the language's file cannot be read; the change went to its side file
+    kStoreKeptTranslation = 6,  // an empty text does not replace a translation; nothing changed
+    kStoreEchoNotWritten = 7,   // an insertion that only echoes the first units of a held record
 };
 
 // The id (PO file name without extension) of the language that the setting names: the id

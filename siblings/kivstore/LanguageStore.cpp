@@ -15,8 +15,7 @@ using kiv::rules::PoRecord;
 using kiv::rules::WithoutByteOrderMark;
 using namespace kiv::siblings;
 
-namespace
-{
+namespace {
 
 constexpr char kSideFileSuffix[] = ".pending";
 constexpr std::size_t kHeaderReadLimit = 64 * 1024;
@@ -37,7 +36,7 @@ std::string EchoOf(const PoRecord& record)
                    FirstUnitEcho(record.key, true), FirstUnitEcho(record.section, true));
 }
 
-} // namespace
+}  // namespace
 
 // One call's table of records: four strings per record, and the slots pointing at them. The
 // strings go before their block, which then sees whether a copy outlives them.
@@ -71,7 +70,7 @@ std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::
 
 struct LanguageStore::Language
 {
-    std::string id; // the file name without extension, as the folder spells it
+    std::string id;  // the file name without extension, as the folder spells it
     std::string path;
     bool loaded = false;
     bool readable = false;
@@ -79,8 +78,8 @@ struct LanguageStore::Language
     // Changes since loading, kept so that they can be made again on a copy another program wrote meanwhile.
     std::vector<PoChange> changes;
     bool sideFileMerged = false;
-    std::string mergedSideFile; // its bytes, so that it is removed only if nobody added to it since
-    std::vector<std::unique_ptr<RecordTable>> tables; // every table handed out stays valid until unloading
+    std::string mergedSideFile;  // its bytes, so that it is removed only if nobody added to it since
+    std::vector<std::unique_ptr<RecordTable>> tables;  // every table handed out stays valid until unloading
     bool tableCurrent = false;
     // What a caller that keeps one unit of each field of the records hands back; made on demand.
     std::unordered_set<std::string> echoes;

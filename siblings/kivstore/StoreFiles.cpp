@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace
-{
+namespace {
 
 bool WriteAll(HANDLE file, const std::string& bytes)
 {
@@ -21,7 +20,7 @@ bool WriteAll(HANDLE file, const std::string& bytes)
     return true;
 }
 
-} // namespace
+}  // namespace
 
 bool ReadWholeFile(const std::string& path, std::string& bytes, std::size_t limit)
 {

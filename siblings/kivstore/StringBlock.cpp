@@ -5,12 +5,11 @@
 #include <algorithm>
 #include <cstring>
 
-namespace
-{
+namespace {
 
 constexpr std::size_t kChunkBytes = 1 << 20;
 constexpr std::size_t kAlignment = alignof(CStringData);
-constexpr long kBlockReference = 1; // the reference the block holds on each of its strings
+constexpr long kBlockReference = 1;  // the reference the block holds on each of its strings
 
 std::size_t StringBytes(int characters)
 {
@@ -18,7 +17,7 @@ std::size_t StringBytes(int characters)
     return (bytes + kAlignment - 1) / kAlignment * kAlignment;
 }
 
-} // namespace
+}  // namespace
 
 StringBlock::~StringBlock()
 {
@@ -72,7 +71,7 @@ CStringData* StringBlock::Allocate(int characters)
     Chunk& chunk = m_chunks.back();
     CStringData* header = reinterpret_cast<CStringData*>(chunk.bytes.get() + chunk.used);
     chunk.used += bytes;
-    header->nRefs = kBlockReference + 1; // and the CStringW about to refer to it
+    header->nRefs = kBlockReference + 1;  // and the CStringW about to refer to it
     header->nDataLength = characters;
     header->nAllocLength = characters;
     return header;

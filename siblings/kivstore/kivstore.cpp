@@ -8,11 +8,10 @@
 
 #include <type_traits>
 
-namespace
-{
+namespace {
 
 SRWLOCK g_lock = SRWLOCK_INIT;
-LanguageStore* g_store = nullptr; // made on first use, written and freed when the library goes
+LanguageStore* g_store = nullptr;  // made on first use, written and freed when the library goes
 
 // "Store"/"Directory", relative to the program's folder unless absolute; "lang" when unset.
 std::string StoreFolder()
@@ -46,8 +45,7 @@ template <typename Result, typename Call> Result Guarded(Result failure, Call ca
         result = call(*g_store);
     }
     catch (...)
-    {
-    }
+    {}
     ::ReleaseSRWLockExclusive(&g_lock);
     return result;
 }
@@ -58,7 +56,7 @@ bool ContextOf(const char* section, const char* key, std::string& context)
     return section && key && kiv::rules::MakeContext(AnsiToUtf8(section), AnsiToUtf8(key), context);
 }
 
-} // namespace
+}  // namespace
 
 CString GetLanguageID(const char* languageSetting)
 {
@@ -72,47 +70,41 @@ CStringW** GetLanguageStrings(const char* languageId)
 
 int GetLanguageString(const char* languageId, const char* section, const char* key, CStringW* text)
 {
-    return Guarded((int)kStoreRefusedText,
-                   [&](LanguageStore& store)
-                   {
-                       std::string context;
-                       if (!store.Knows(languageId))
-                           return (int)kStoreUnknownLanguage;
-                       if (!text || !ContextOf(section, key, context))
-                           return (int)kStoreRefusedText;
-                       return store.Get(languageId, context, text);
-                   });
+    return Guarded((int)kStoreRefusedText, [&](LanguageStore& store) {
+        std::string context;
+        if (!store.Knows(languageId))
+            return (int)kStoreUnknownLanguage;
+        if (!text || !ContextOf(section, key, context))
+            return (int)kStoreRefusedText;
+        return store.Get(languageId, context, text);
+    });
 }
 
 int InsertLanguageString(const char* defaultText, const wchar_t* translatedText, const char* languageId,
                          const char* section, const char* key)
 {
-    return Guarded((int)kStoreRefusedText,
-                   [&](LanguageStore& store)
-                   {
-                       std::string context, msgid = AnsiToUtf8(defaultText), msgstr;
-                       if (!store.Knows(languageId))
-                           return (int)kStoreUnknownLanguage;
-                       if (!ContextOf(section, key, context) || !kiv::rules::IsStorableText(msgid) ||
-                           !WideToUtf8(translatedText, msgstr) || !kiv::rules::IsStorableText(msgstr))
-                           return (int)kStoreRefusedText;
-                       return store.Insert(languageId, context, msgid, msgstr);
-                   });
+    return Guarded((int)kStoreRefusedText, [&](LanguageStore& store) {
+        std::string context, msgid = AnsiToUtf8(defaultText), msgstr;
+        if (!store.Knows(languageId))
+            return (int)kStoreUnknownLanguage;
+        if (!ContextOf(section, key, context) || !kiv::rules::IsStorableText(msgid) ||
+            !WideToUtf8(translatedText, msgstr) || !kiv::rules::IsStorableText(msgstr))
+            return (int)kStoreRefusedText;
+        return store.Insert(languageId, context, msgid, msgstr);
+    });
 }
 
 int UpdateLanguageString(const wchar_t* translatedText, const char* languageId, const char* section, const char* key)
 {
-    return Guarded((int)kStoreRefusedText,
-                   [&](LanguageStore& store)
-                   {
-                       std::string context, msgstr;
-                       if (!store.Knows(languageId))
-                           return (int)kStoreUnknownLanguage;
-                       if (!ContextOf(section, key, context) || !WideToUtf8(translatedText, msgstr) ||
-                           !kiv::rules::IsStorableText(msgstr))
-                           return (int)kStoreRefusedText;
-                       return store.Update(languageId, context, msgstr);
-                   });
+    return Guarded((int)kStoreRefusedText, [&](LanguageStore& store) {
+        std::string context, msgstr;
+        if (!store.Knows(languageId))
+            return (int)kStoreUnknownLanguage;
+        if (!ContextOf(section, key, context) || !WideToUtf8(translatedText, msgstr) ||
+            !kiv::rules::IsStorableText(msgstr))
+            return (int)kStoreRefusedText;
+        return store.Update(languageId, context, msgstr);
+    });
 }
 
 // Each export has the type that the contract gives its callers.
@@ -133,8 +125,7 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved)
         g_store->Flush();
     }
     catch (...)
-    {
-    }
+    {}
     // At process exit the memory goes with the process, and other threads may have left the heap locked.
     if (!reserved)
     {

@@ -11,7 +11,10 @@ public:
     int value;
 };
 
-int ValueAt(CObList& list, POSITION pos) { return static_cast<Item*>(list.GetAt(pos))->value; }
+int ValueAt(CObList& list, POSITION pos)
+{
+    return static_cast<Item*>(list.GetAt(pos))->value;
+}
 
 }  // namespace
 

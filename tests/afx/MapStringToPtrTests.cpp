@@ -7,7 +7,10 @@
 
 namespace {
 
-void* P(intptr_t n) { return reinterpret_cast<void*>(n); }
+void* P(intptr_t n)
+{
+    return reinterpret_cast<void*>(n);
+}
 
 }  // namespace
 

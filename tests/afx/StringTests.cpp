@@ -164,12 +164,16 @@ TEST(CString, NonAsciiTextConvertsThroughTheAnsiCodePage)
 {
     ASSERT_EQ(1252u, ::GetACP());
     CString narrow(L"Gr\u00f6\u00dfe");
-    EXPECT_STREQ("Gr\xf6\xdf" "e", narrow);
+    EXPECT_STREQ("Gr\xf6\xdf"
+                 "e",
+                 narrow);
     CStringW wide("Datentr\xe4ger");
     EXPECT_STREQ(L"Datentr\u00e4ger", wide);
     CString loaded;
     ASSERT_TRUE(loaded.LoadString(IDS_TEST_UMLAUT));
-    EXPECT_STREQ("Gr\xf6\xdf" "e", loaded);
+    EXPECT_STREQ("Gr\xf6\xdf"
+                 "e",
+                 loaded);
 }
 
 TEST(CString, AllocSysStringGivesAWideCopyOfTheRightLength)

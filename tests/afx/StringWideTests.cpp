@@ -44,7 +44,8 @@ TEST(CStringW, LoadStringKeepsTheResourceText)
 
 TEST(CStringW, NarrowAndWideConvertBothWays)
 {
-    CString narrow("Gr\xf6\xdf" "e");
+    CString narrow("Gr\xf6\xdf"
+                   "e");
     CStringW wide(narrow);
     EXPECT_STREQ(L"Gr\u00f6\u00dfe", wide);
     CString back(wide);

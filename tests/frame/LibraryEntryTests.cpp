@@ -4,7 +4,10 @@
 
 namespace {
 
-HMODULE Library() { return ::GetModuleHandleA("KivMFC64.dll"); }
+HMODULE Library()
+{
+    return ::GetModuleHandleA("KivMFC64.dll");
+}
 
 int LibrariesOf(HMODULE hModule)
 {

@@ -7,8 +7,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 HMODULE Library()
 {
@@ -25,7 +24,7 @@ bool Holds(const std::vector<WORD>& ids, WORD id)
     return std::find(ids.begin(), ids.end(), id) != ids.end();
 }
 
-} // namespace
+}  // namespace
 
 TEST(KivMFC64, ExportTableNamesTheTwoCFunctionsUndecorated)
 {

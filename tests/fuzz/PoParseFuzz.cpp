@@ -9,8 +9,7 @@
 
 using namespace kiv::rules;
 
-namespace
-{
+namespace {
 
 void Check(bool condition)
 {
@@ -18,7 +17,7 @@ void Check(bool condition)
         std::abort();
 }
 
-} // namespace
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

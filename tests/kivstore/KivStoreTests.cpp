@@ -5,8 +5,7 @@
 
 using namespace kiv::siblings;
 
-namespace
-{
+namespace {
 
 const auto& kHeader = kiv_tests::kPoHeader;
 const auto Entry = kiv_tests::PoEntry;
@@ -24,8 +23,7 @@ const std::string kGerman = std::string(kHeader) + Entry("100", "1", "OK", "In O
                             Entry("100", "2", "Cancel", "Abbrechen") + Entry("STRINGTABLE", "7", "Open", "");
 
 class KivStore : public StoreTest
-{
-};
+{};
 
 // "YYYY-MM-DD HH:MM+0000", the form PO tools write.
 bool IsRevisionDate(const std::string& date)
@@ -39,7 +37,7 @@ bool IsRevisionDate(const std::string& date)
     return true;
 }
 
-} // namespace
+}  // namespace
 
 TEST_F(KivStore, ExportsTheFiveFunctionsUnderTheirDecoratedNames)
 {

@@ -11,8 +11,7 @@
 
 using namespace kiv::siblings;
 
-namespace
-{
+namespace {
 
 constexpr int kRuns = 7;
 
@@ -95,7 +94,7 @@ double SaveNewTexts(int texts)
     return Now() - start;
 }
 
-} // namespace
+}  // namespace
 
 int main()
 {

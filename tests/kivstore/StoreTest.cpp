@@ -2,8 +2,7 @@
 
 using namespace kiv::siblings;
 
-namespace
-{
+namespace {
 
 // Beside bin/, so that the build's msgfmt check finds every file the tests leave.
 constexpr char kFilesFolder[] = "..\\kivstore-files\\";
@@ -29,7 +28,7 @@ void EmptyFolder(const std::string& folder)
     ::FindClose(search);
 }
 
-} // namespace
+}  // namespace
 
 std::string ProgramFolder()
 {

@@ -14,8 +14,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace
-{
+namespace {
 
 using Clock = std::chrono::steady_clock;
 constexpr int kRuns = 21;
@@ -76,7 +75,7 @@ LocalizationManager* FreshManager()
 struct Key
 {
     CString defaultText, key, section;
-    CStringW wide; // the translation of a hit
+    CStringW wide;  // the translation of a hit
     std::string stdKey, stdSection;
 };
 
@@ -135,13 +134,11 @@ void CompareLookups(const char* what, LocalizationManager* m, const BareMap& map
 {
     size_t sink = 0;
     std::vector<double> ns =
-        NsPerKeyInTurns({[&]
-                         {
+        NsPerKeyInTurns({[&] {
                              for (const Key& k : keys)
                                  sink += m->GetWideTranslation(k.defaultText, k.key, k.section).GetLength();
                          },
-                         [&]
-                         {
+                         [&] {
                              for (const Key& k : keys)
                              {
                                  auto section = map.find(k.stdSection);
@@ -152,8 +149,7 @@ void CompareLookups(const char* what, LocalizationManager* m, const BareMap& map
                                      sink += entry->second.size();
                              }
                          },
-                         [&]
-                         {
+                         [&] {
                              for (const Key& k : keys)
                                  sink += PassByValue(k.defaultText, k.key, k.section, k.wide).GetLength();
                          }},
@@ -168,8 +164,8 @@ void CompareLookups(const char* what, LocalizationManager* m, const BareMap& map
 
 void BenchLookups()
 {
-    std::vector<Key> hits = MakeKeys(100, 100, 1000);   // 10,000 translated texts
-    std::vector<Key> misses = MakeKeys(100, 100, 5000); // 10,000 texts without translation
+    std::vector<Key> hits = MakeKeys(100, 100, 1000);    // 10,000 translated texts
+    std::vector<Key> misses = MakeKeys(100, 100, 5000);  // 10,000 texts without translation
     LocalizationManager* m = FreshManager();
     BareMap map;
     for (const Key& k : hits)
@@ -178,7 +174,7 @@ void BenchLookups()
         map[k.stdSection][k.stdKey] = k.wide.GetString();
     }
     for (const Key& k : misses)
-        m->GetWideTranslation(k.defaultText, k.key, k.section); // recorded once, then asked again
+        m->GetWideTranslation(k.defaultText, k.key, k.section);  // recorded once, then asked again
     printf("lookups: 10,000 keys in 100 sections, in random order; a miss is a text asked for\n"
            "again that has no translation\n");
     CompareLookups("hit ", m, map, hits);
@@ -205,10 +201,9 @@ void BenchStartUp(const std::string& control)
         HMODULE store = LoadStore(control, records);
         if (store == nullptr)
             return;
-        FreshManager(); // the store builds its table once while it stays loaded
+        FreshManager();  // the store builds its table once while it stays loaded
         double s = TimeMedian(
-            []
-            {
+            [] {
                 LocalizationManager::Dispose();
                 LocalizationManager::m_SingletonInstance = nullptr;
             },
@@ -226,8 +221,7 @@ void BenchDispose(const std::string& control)
         return;
     std::vector<Key> texts = MakeKeys(100, 100, 1000);
     double s = TimeMedian(
-        [&]
-        {
+        [&] {
             LocalizationManager* m = FreshManager();
             for (const Key& k : texts)
                 m->GetWideTranslation(k.defaultText, k.key, k.section);
@@ -294,8 +288,7 @@ void BenchRealStore(const std::string& ini)
     }
     std::vector<Key> texts = MakeKeys(100, 100, 1000);
     double s = TimeMedian(
-        [&]
-        {
+        [&] {
             WriteText(file, LanguageFile(0));
             LocalizationManager* m = FreshManager();
             for (const Key& k : texts)
@@ -306,7 +299,7 @@ void BenchRealStore(const std::string& ini)
     RemoveFolder(folder);
 }
 
-} // namespace
+}  // namespace
 
 int main()
 {
@@ -318,7 +311,7 @@ int main()
     ::SetEnvironmentVariableA("KIV_RECORDING_STORE_LOG", nullptr);
     printf("localization bench, medians of %d runs\n", kRuns);
 
-    WriteText(ini, "[Environment]\r\nLanguageSetting=\r\n"); // lookups alone, no store
+    WriteText(ini, "[Environment]\r\nLanguageSetting=\r\n");  // lookups alone, no store
     BenchLookups();
     WriteText(ini, "[Environment]\r\nLanguageSetting=German\r\n");
     BenchStartUp(control);

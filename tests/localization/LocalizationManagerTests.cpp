@@ -4,8 +4,7 @@
 
 #include "LocalizationKeys.h"
 
-namespace localization_tests
-{
+namespace localization_tests {
 
 using kiv::localization::KeyText;
 
@@ -234,7 +233,7 @@ TEST_F(LocalizationManager, AssignmentSharesTheCache)
     EXPECT_STREQ(L"B", other.GetWideTranslation("A", "1", "s"));
     other.SetTranslation("C", L"D", "2", "s");
     EXPECT_STREQ(L"D", m->GetWideTranslation("C", "2", "s"));
-    other.Cache() = own; // its own cache back, so the shared one is destroyed once
+    other.Cache() = own;  // its own cache back, so the shared one is destroyed once
 }
 
 TEST_F(LocalizationManager, SavingDestroysTheCacheOnce)
@@ -265,4 +264,4 @@ TEST_F(LocalizationManager, DisposeWithoutAnInstanceDoesNothing)
     EXPECT_EQ(loaded, LoadedLibraries());
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests

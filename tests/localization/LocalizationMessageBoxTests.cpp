@@ -3,16 +3,14 @@
 // code page lacks; one shown through the wide call keeps them.
 #include "LocalizationTestSupport.h"
 
-namespace localization_tests
-{
+namespace localization_tests {
 
-namespace
-{
+namespace {
 
-const wchar_t kWideCaption[] = L"Fehler \x65E5\x672C"; // two characters no ANSI code page here has
+const wchar_t kWideCaption[] = L"Fehler \x65E5\x672C";  // two characters no ANSI code page here has
 const wchar_t kNarrowedCaption[] = L"Fehler ??";
 
-} // namespace
+}  // namespace
 
 TEST_F(LocalizationManager, StringKeyOverloadsWithoutAWideCaptionShowNothingOutsideTranslationMode)
 {
@@ -230,4 +228,4 @@ TEST_F(LocalizationManager, TranslationModeIsAskedAtEveryBox)
     EXPECT_EQ(kNarrowedCaption, watcher.boxes[1].caption);
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests

@@ -5,16 +5,14 @@
 #include "LocalizationTestSupport.h"
 #include "PoText.h"
 
-namespace localization_tests
-{
+namespace localization_tests {
 
-namespace
-{
+namespace {
 
 const auto& kHeader = kiv_tests::kPoHeader;
 const auto Entry = kiv_tests::PoEntry;
 
-} // namespace
+}  // namespace
 
 TEST_F(LocalizationManager, HostInTranslationModeLeavesItsTextsInTheLanguageFile)
 {
@@ -78,13 +76,11 @@ TEST_F(LocalizationManager, StoreRecordsArePreloadedOneCharacterPerField)
     EXPECT_STREQ("Y", CachedEntry(m, "7", "9")->defaultText);
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests
 
-namespace localization_tests
-{
+namespace localization_tests {
 
-namespace
-{
+namespace {
 
 // A file a translator filled: translated, untranslated and non-ASCII entries, and one the host
 // never asks for.
@@ -95,7 +91,7 @@ const std::string kTranslated = std::string(kHeader) + Entry("100", "1", "OK", "
                                       "Schlie\xC3\x9F"
                                       "en");
 
-} // namespace
+}  // namespace
 
 TEST_F(LocalizationManager, StoreTranslationsReachTheCacheInFullWhenTheHostLoadsThem)
 {
@@ -131,4 +127,4 @@ TEST_F(LocalizationManager, HostRunThatAsksForANewTextAddsExactlyThatEntry)
     EXPECT_EQ(kTranslated + Entry("100", "9", "Print", ""), LanguageFile());
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests

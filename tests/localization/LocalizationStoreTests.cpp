@@ -8,11 +8,9 @@
 
 #include <algorithm>
 
-namespace localization_tests
-{
+namespace localization_tests {
 
-namespace
-{
+namespace {
 
 const char kGerman[] = "language\tGerman\tde\n";
 
@@ -21,7 +19,7 @@ std::vector<std::string> Lines(std::initializer_list<std::string> lines)
     return std::vector<std::string>(lines);
 }
 
-} // namespace
+}  // namespace
 
 // The names the manager requests, written out here as the libraries must export them, and
 // read back from the export tables of the real siblings and of the store double.
@@ -31,8 +29,7 @@ TEST_F(LocalizationManager, SiblingExportTablesHoldTheDecoratedNames)
         "?GetLanguageID@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@PBD@Z",
         "?GetLanguageString@@YAHPBD00PAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@@Z",
         "?GetLanguageStrings@@YAPAPAV?$CStringT@GV?$StrTraitMFC_DLL@GV?$ChTraitsCRT@G@ATL@@@@@ATL@@PBD@Z",
-        "?InsertLanguageString@@YAHPBDPBG000@Z",
-        "?UpdateLanguageString@@YAHPBGPBD11@Z"};
+        "?InsertLanguageString@@YAHPBDPBG000@Z", "?UpdateLanguageString@@YAHPBGPBD11@Z"};
     const std::vector<std::string> utilNames = {
         "?kivGetIniString@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@QEBD00@Z"};
     for (const char* arrangement : {"real", "recording"})
@@ -460,10 +457,9 @@ TEST_F(LocalizationManager, IsTranslationModeWithoutTheReaderIsZeroAndKeepsTheLi
     EXPECT_TRUE(IsLoaded("kivutil64.dll"));
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests
 
-namespace localization_tests
-{
+namespace localization_tests {
 
 TEST_F(LocalizationManager, StorePreloadEntersEveryRecordInFull)
 {
@@ -521,9 +517,9 @@ TEST_F(LocalizationManager, PreloadedEntriesEqualTheStoresAndCauseNoWriteAtDispo
     std::vector<std::string> log = StoreLog();
     EXPECT_EQ(0, std::count_if(log.begin(), log.end(),
                                [](const std::string& line) { return line.rfind("UpdateLanguageString", 0) == 0; }));
-    EXPECT_EQ(0, std::count_if(log.begin(), log.end(),
-                               [](const std::string& line)
-                               { return line.rfind("InsertLanguageString\tHello", 0) == 0; }));
+    EXPECT_EQ(0, std::count_if(log.begin(), log.end(), [](const std::string& line) {
+                  return line.rfind("InsertLanguageString\tHello", 0) == 0;
+              }));
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-namespace localization_tests
-{
+namespace localization_tests {
 
-namespace
-{
+namespace {
 
 std::string TempFile(const char* prefix)
 {
@@ -57,7 +55,7 @@ CMapStringToPtr* KeysOf(Manager* manager, const char* section)
     return cache != nullptr && cache->Lookup(section, keys) ? static_cast<CMapStringToPtr*>(keys) : nullptr;
 }
 
-} // namespace
+}  // namespace
 
 const TranslationEntry* CachedEntry(Manager* manager, const char* section, const char* key)
 {
@@ -222,8 +220,7 @@ BoxWatcher::~BoxWatcher()
     s_current = nullptr;
 }
 
-namespace
-{
+namespace {
 
 std::wstring TextOf(HWND window)
 {
@@ -249,7 +246,7 @@ BOOL CALLBACK ReadChild(HWND child, LPARAM lParam)
     return TRUE;
 }
 
-} // namespace
+}  // namespace
 
 LRESULT CALLBACK BoxWatcher::Hook(int code, WPARAM wParam, LPARAM lParam)
 {
@@ -272,4 +269,4 @@ LRESULT CALLBACK BoxWatcher::Hook(int code, WPARAM wParam, LPARAM lParam)
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-} // namespace localization_tests
+}  // namespace localization_tests

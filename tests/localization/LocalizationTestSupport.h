@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace localization_tests
-{
+namespace localization_tests {
 
 using Manager = ::LocalizationManager;
 
@@ -78,8 +77,8 @@ struct SeenBox
 {
     std::wstring caption;
     std::wstring text;
-    std::vector<int> buttons; // control ids of the visible buttons, in Z order
-    bool hasIcon = false;     // an icon static that holds an icon
+    std::vector<int> buttons;  // control ids of the visible buttons, in Z order
+    bool hasIcon = false;      // an icon static that holds an icon
     bool owned = false;
 };
 
@@ -99,4 +98,4 @@ private:
     std::vector<HWND> m_seen;
 };
 
-} // namespace localization_tests
+}  // namespace localization_tests

@@ -36,7 +36,10 @@ template <typename Ch> Parts Split(const std::basic_string<Ch>& s)
             Text(s, NamePart(p, n)),  Text(s, ExtPart(p, n)),  HasDriveColon(p, n)};
 }
 
-std::u16string Wide(const std::string& s) { return std::u16string(s.begin(), s.end()); }
+std::u16string Wide(const std::string& s)
+{
+    return std::u16string(s.begin(), s.end());
+}
 
 // Every case is checked narrow and wide, with the same expected parts.
 void ExpectParts(const std::string& name, const Parts& expected)

@@ -36,7 +36,10 @@ TEST(FixedNotation, ValuesBelowOneStartWithZero)
     EXPECT_EQ("0.25", Compose("25", 0, 0, 2));
 }
 
-TEST(FixedNotation, ZeroDecimalsKeepTheTrailingPoint) { EXPECT_EQ("13.", Compose("13", 2, 0, 0)); }
+TEST(FixedNotation, ZeroDecimalsKeepTheTrailingPoint)
+{
+    EXPECT_EQ("13.", Compose("13", 2, 0, 0));
+}
 
 TEST(FixedNotation, NegativeDecptFillsZerosUpToTheFirstDigit)
 {

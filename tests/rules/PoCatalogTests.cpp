@@ -10,8 +10,7 @@ using kiv::rules::PoError;
 using kiv::rules::PoHeaderInfo;
 using kiv::rules::PoRecord;
 
-namespace
-{
+namespace {
 
 const char kHeader[] = "msgid \"\"\n"
                        "msgstr \"\"\n"
@@ -35,7 +34,7 @@ std::string Entry(std::string_view context, std::string_view msgid, std::string_
            std::string(msgstr) + "\"\n";
 }
 
-} // namespace
+}  // namespace
 
 TEST(MakeContext, JoinsSectionAndKeyWithALineFeed)
 {

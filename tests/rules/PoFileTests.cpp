@@ -10,8 +10,7 @@ using kiv::rules::PoError;
 using kiv::rules::PoFile;
 using kiv::rules::WritePo;
 
-namespace
-{
+namespace {
 
 PoFile Parsed(std::string_view text)
 {
@@ -57,7 +56,7 @@ const char kTranslated[] = "# German texts\n"
                            "msgstr \"\"\n"
                            "\"Abbrechen\"\n";
 
-} // namespace
+}  // namespace
 
 TEST(ParsePo, ReadsHeaderContextsTextsAndComments)
 {

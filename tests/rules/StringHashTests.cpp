@@ -6,7 +6,10 @@
 using kiv::rules::ClampSubstring;
 using kiv::rules::StringHash;
 
-TEST(StringHash, EmptyKeyHashesToZero) { EXPECT_EQ(0u, StringHash("")); }
+TEST(StringHash, EmptyKeyHashesToZero)
+{
+    EXPECT_EQ(0u, StringHash(""));
+}
 
 TEST(StringHash, MultipliesByThirtyThreeAndAdds)
 {
@@ -43,7 +46,10 @@ TEST(SubstringRange, FirstBeyondTheEndGivesNothing)
     EXPECT_EQ(0, ClampSubstring(6, 6, 2).count);
 }
 
-TEST(SubstringRange, NegativeCountGivesNothing) { EXPECT_EQ(0, ClampSubstring(6, 2, -2).count); }
+TEST(SubstringRange, NegativeCountGivesNothing)
+{
+    EXPECT_EQ(0, ClampSubstring(6, 2, -2).count);
+}
 
 TEST(SubstringRange, CountStopsAtTheEndWithoutOverflow)
 {

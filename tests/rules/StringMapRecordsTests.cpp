@@ -31,68 +31,95 @@ Records Walk(const std::string& bytes, std::size_t* handed = nullptr)
     return out;
 }
 
-std::string Bytes(const char* text, std::size_t n) { return std::string(text, n); }
+std::string Bytes(const char* text, std::size_t n)
+{
+    return std::string(text, n);
+}
 
 }  // namespace
 
 TEST(StringMapRecords, RecordsFollowEachOtherWithoutPadding)
 {
-    Records r = Walk(Bytes("\x01\x00OPEN\0\x02\x00" "Close\0", 15));
+    Records r = Walk(Bytes("\x01\x00OPEN\0\x02\x00"
+                           "Close\0",
+                           15));
     EXPECT_EQ((Records{{1, "OPEN"}, {2, "Close"}}), r);
 }
 
 TEST(StringMapRecords, IdentifiersAreLittleEndianSixteenBits)
 {
-    Records r = Walk(Bytes("\x34\x12" "a\0\xff\xff" "b\0", 8));
+    Records r = Walk(Bytes("\x34\x12"
+                           "a\0\xff\xff"
+                           "b\0",
+                           8));
     EXPECT_EQ((Records{{0x1234, "a"}, {0xFFFF, "b"}}), r);
 }
 
 TEST(StringMapRecords, IdentifierWithTwoZeroBytesEndsTheData)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0\x07\x00\0\0\x02\x00" "B\0", 12));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0\x07\x00\0\0\x02\x00"
+                           "B\0",
+                           12));
     EXPECT_EQ((Records{{1, "A"}}), r);
 }
 
 TEST(StringMapRecords, EndMarkAtTheEndStoresNothing)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0\x00\x00\0\0", 8));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0\x00\x00\0\0",
+                           8));
     EXPECT_EQ((Records{{1, "A"}}), r);
 }
 
 TEST(StringMapRecords, EmptyNameBeforeMoreTextIsARecord)
 {
     // Only a zero word ends the data; a zero byte followed by text is an empty name.
-    Records r = Walk(Bytes("\x05\x00\0\x06\x00" "X\0", 7));
+    Records r = Walk(Bytes("\x05\x00\0\x06\x00"
+                           "X\0",
+                           7));
     EXPECT_EQ((Records{{5, ""}, {6, "X"}}), r);
 }
 
 TEST(StringMapRecords, LastNameWithoutItsZeroStopsAtTheEnd)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0\x02\x00" "OPE", 9));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0\x02\x00"
+                           "OPE",
+                           9));
     EXPECT_EQ((Records{{1, "A"}, {2, "OPE"}}), r);
 }
 
 TEST(StringMapRecords, OddTrailingByteIsNoRecord)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0z", 5));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0z",
+                           5));
     EXPECT_EQ((Records{{1, "A"}}), r);
 }
 
 TEST(StringMapRecords, IdentifierWithoutANameIsNoRecord)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0\x02\x00", 6));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0\x02\x00",
+                           6));
     EXPECT_EQ((Records{{1, "A"}}), r);
 }
 
 TEST(StringMapRecords, SingleNameByteAtTheEndIsAName)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0\x02\x00" "Q", 7));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0\x02\x00"
+                           "Q",
+                           7));
     EXPECT_EQ((Records{{1, "A"}, {2, "Q"}}), r);
 }
 
 TEST(StringMapRecords, ZeroNameByteAtTheEndIsACutEndMark)
 {
-    Records r = Walk(Bytes("\x01\x00" "A\0\x02\x00\0", 7));
+    Records r = Walk(Bytes("\x01\x00"
+                           "A\0\x02\x00\0",
+                           7));
     EXPECT_EQ((Records{{1, "A"}}), r);
 }
 

@@ -11,8 +11,8 @@ TEST(IsValidUtf8, AcceptsEveryPlaneOfUnicode)
 {
     EXPECT_TRUE(IsValidUtf8(""));
     EXPECT_TRUE(IsValidUtf8("plain"));
-    EXPECT_TRUE(IsValidUtf8("\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80")); // a-umlaut, euro, emoji
-    EXPECT_TRUE(IsValidUtf8("\xF4\x8F\xBF\xBF"));                     // U+10FFFF
+    EXPECT_TRUE(IsValidUtf8("\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"));  // a-umlaut, euro, emoji
+    EXPECT_TRUE(IsValidUtf8("\xF4\x8F\xBF\xBF"));                      // U+10FFFF
 }
 
 TEST(IsValidUtf8, RefusesOverlongSurrogateAndTooHighForms)
@@ -20,8 +20,8 @@ TEST(IsValidUtf8, RefusesOverlongSurrogateAndTooHighForms)
     EXPECT_FALSE(IsValidUtf8("\xC0\xAF"));
     EXPECT_FALSE(IsValidUtf8("\xE0\x80\xAF"));
     EXPECT_FALSE(IsValidUtf8("\xF0\x80\x80\xAF"));
-    EXPECT_FALSE(IsValidUtf8("\xED\xA0\x80"));     // U+D800
-    EXPECT_FALSE(IsValidUtf8("\xF4\x90\x80\x80")); // above U+10FFFF
+    EXPECT_FALSE(IsValidUtf8("\xED\xA0\x80"));      // U+D800
+    EXPECT_FALSE(IsValidUtf8("\xF4\x90\x80\x80"));  // above U+10FFFF
     EXPECT_FALSE(IsValidUtf8("\xFF"));
 }
 

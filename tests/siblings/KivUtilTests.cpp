@@ -6,7 +6,8 @@
 
 namespace {
 
-const char kReaderName[] = "?kivGetIniString@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@QEBD00@Z";
+const char kReaderName[] =
+    "?kivGetIniString@@YA?AV?$CStringT@DV?$StrTraitMFC_DLL@DV?$ChTraitsCRT@D@ATL@@@@@ATL@@QEBD00@Z";
 typedef CString (*IniReader)(const char*, const char*, const char*);
 
 // A settings file of the test's own, named by KIV_INI while the test runs.

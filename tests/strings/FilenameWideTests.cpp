@@ -9,7 +9,6 @@ const unsigned short* U(const wchar_t* text)
     return reinterpret_cast<const unsigned short*>(text);
 }
 
-
 // Every getter's pointer form: the part, or "<absent>" with the target left unchanged.
 CStringW Part(int (strFilenameW::*getter)(strStringW*) const, const strFilenameW& name)
 {

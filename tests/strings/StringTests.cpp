@@ -130,7 +130,9 @@ TEST(strString, ResourceConstructorLoadsTheStringUntranslated)
     CString expected;
     expected.LoadString(IDS_STR_UMLAUT);
     EXPECT_EQ(expected, strString(IDS_STR_UMLAUT));
-    EXPECT_STREQ("Gr\xf6\xdf" "e", strString(IDS_STR_UMLAUT));
+    EXPECT_STREQ("Gr\xf6\xdf"
+                 "e",
+                 strString(IDS_STR_UMLAUT));
 }
 
 TEST(strString, MissingResourceStringGivesEmpty)

@@ -73,8 +73,8 @@ TEST(strStringW, ResourceStringWithoutStoredTranslationIsWidened)
 TEST(strStringW, ResourceStringWithStoredTranslationIsTheTranslation)
 {
     TranslationSetting setting(true);
-    LocalizationManager::Get()->SetTranslation("Hello, resources", L"Hallo, \u20ac 100%s",
-                                               Key(IDS_STR_HELLO), "STRINGTABLE");
+    LocalizationManager::Get()->SetTranslation("Hello, resources", L"Hallo, \u20ac 100%s", Key(IDS_STR_HELLO),
+                                               "STRINGTABLE");
     strStringW s(IDS_STR_HELLO);
     EXPECT_STREQ(L"Hallo, \u20ac 100%s", s);
     EXPECT_EQ(14, s.GetCharLength());
@@ -92,10 +92,16 @@ TEST(strStringW, TranslationWinsEvenOverAnEmptyResourceString)
 TEST(strStringW, TranslationIsLookedUpUnderStringTableAndTheDecimalIdentifier)
 {
     TranslationSetting setting(true);
-    LocalizationManager::Get()->SetTranslation("Gr\xf6\xdf" "e", L"Size", Key(IDS_STR_UMLAUT), "DIALOG");
-    LocalizationManager::Get()->SetTranslation("Gr\xf6\xdf" "e", L"Size", "0xCA", "STRINGTABLE");
+    LocalizationManager::Get()->SetTranslation("Gr\xf6\xdf"
+                                               "e",
+                                               L"Size", Key(IDS_STR_UMLAUT), "DIALOG");
+    LocalizationManager::Get()->SetTranslation("Gr\xf6\xdf"
+                                               "e",
+                                               L"Size", "0xCA", "STRINGTABLE");
     EXPECT_STREQ(L"Gr\u00f6\u00dfe", strStringW(IDS_STR_UMLAUT));
-    LocalizationManager::Get()->SetTranslation("Gr\xf6\xdf" "e", L"Gr\u00f6\u00dfe (de)", "202", "STRINGTABLE");
+    LocalizationManager::Get()->SetTranslation("Gr\xf6\xdf"
+                                               "e",
+                                               L"Gr\u00f6\u00dfe (de)", "202", "STRINGTABLE");
     EXPECT_STREQ(L"Gr\u00f6\u00dfe (de)", strStringW(IDS_STR_UMLAUT));
 }
 

@@ -1,10 +1,8 @@
 #include "ImageTables.h"
 
-namespace kiv_test
-{
+namespace kiv_test {
 
-namespace
-{
+namespace {
 
 const IMAGE_DATA_DIRECTORY& Directory(HMODULE module, int index)
 {
@@ -25,7 +23,7 @@ const IMAGE_RESOURCE_DIRECTORY_ENTRY* Entries(const IMAGE_RESOURCE_DIRECTORY* di
     return reinterpret_cast<const IMAGE_RESOURCE_DIRECTORY_ENTRY*>(directory + 1);
 }
 
-} // namespace
+}  // namespace
 
 std::vector<std::string> ExportNames(HMODULE module)
 {
@@ -62,4 +60,4 @@ std::vector<WORD> ResourceIds(HMODULE module, WORD type)
     return ids;
 }
 
-} // namespace kiv_test
+}  // namespace kiv_test

@@ -7,12 +7,11 @@
 #include <string>
 #include <vector>
 
-namespace kiv_test
-{
+namespace kiv_test {
 
 // Every name of the module's export table, in the table's order.
 std::vector<std::string> ExportNames(HMODULE module);
 // The numeric ids of the resource directory's entries of one numeric type (RT_BITMAP, ...).
 std::vector<WORD> ResourceIds(HMODULE module, WORD type);
 
-} // namespace kiv_test
+}  // namespace kiv_test

@@ -144,13 +144,13 @@ std::string Describe(const std::vector<SpyMessage>& messages)
         }
         if (e.flags & Expected::kOptional)
             continue;
-        return ::testing::AssertionFailure() << "expected entry " << n << " (0x" << std::hex << e.message << std::dec
-                                             << ") not matched at position " << i << "; recorded:"
-                                             << Describe(m_messages);
+        return ::testing::AssertionFailure()
+               << "expected entry " << n << " (0x" << std::hex << e.message << std::dec << ") not matched at position "
+               << i << "; recorded:" << Describe(m_messages);
     }
     if (i != m_messages.size())
-        return ::testing::AssertionFailure() << "unexpected messages from position " << i << "; recorded:"
-                                             << Describe(m_messages);
+        return ::testing::AssertionFailure()
+               << "unexpected messages from position " << i << "; recorded:" << Describe(m_messages);
     return ::testing::AssertionSuccess();
 }
 

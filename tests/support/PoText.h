@@ -4,8 +4,7 @@
 
 #include <string>
 
-namespace kiv_tests
-{
+namespace kiv_tests {
 
 inline const char kPoHeader[] = "msgid \"\"\n"
                                 "msgstr \"\"\n"

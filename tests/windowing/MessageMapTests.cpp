@@ -50,10 +50,7 @@ protected:
         m_nEnable = bEnable;
         CWnd::OnEnable(bEnable);
     }
-    afx_msg void OnCaptureChanged(CWnd* pWnd)
-    {
-        m_hWndCaptureGained = pWnd->GetSafeHwnd();
-    }
+    afx_msg void OnCaptureChanged(CWnd* pWnd) { m_hWndCaptureGained = pWnd->GetSafeHwnd(); }
     afx_msg BOOL OnEraseBkgnd(CDC* pDC)
     {
         m_hEraseDC = pDC->GetSafeHdc();

@@ -56,8 +56,8 @@ END_MESSAGE_MAP()
 
 HWND CreateOwnerDrawButton(CWnd& parent)
 {
-    return ::CreateWindowExA(0, "BUTTON", "drawn", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, 10, 10, 80, 30,
-                             parent.m_hWnd, (HMENU)(UINT_PTR)kButtonID, nullptr, nullptr);
+    return ::CreateWindowExA(0, "BUTTON", "drawn", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, 10, 10, 80, 30, parent.m_hWnd,
+                             (HMENU)(UINT_PTR)kButtonID, nullptr, nullptr);
 }
 
 }  // namespace

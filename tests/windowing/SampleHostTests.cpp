@@ -112,8 +112,7 @@ TEST_F(SampleHost, KeysOfTheBarControlsPassTheFramesPreTranslateMessage)
     pFrame->PostMessage(WM_COMMAND, ID_FILE_OPEN_TEST);
     MSG msg;
     while (::PeekMessageA(&msg, nullptr, 0, 0, PM_NOREMOVE) && AfxPumpMessage())
-    {
-    }
+    {}
     EXPECT_GE(pFrame->m_nKeysSeen, 1);
     EXPECT_EQ(1, pFrame->m_nOpened);
 }

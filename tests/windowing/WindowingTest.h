@@ -21,8 +21,8 @@ inline void PumpPending()
 inline BOOL CreateTopLevel(CWnd& wnd, int cx = 320, int cy = 240, LPCSTR lpszTitle = "test")
 {
     return wnd.CreateEx(0, AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_ARROW), (HBRUSH)(COLOR_WINDOW + 1)),
-                        lpszTitle, WS_OVERLAPPED | WS_CAPTION | WS_VISIBLE | WS_CLIPCHILDREN, 10, 10, cx, cy,
-                        nullptr, nullptr);
+                        lpszTitle, WS_OVERLAPPED | WS_CAPTION | WS_VISIBLE | WS_CLIPCHILDREN, 10, 10, cx, cy, nullptr,
+                        nullptr);
 }
 
 }  // namespace kivtest

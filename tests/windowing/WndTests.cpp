@@ -117,8 +117,8 @@ TEST(CWnd, SubclassWindowCallsPreSubclassWindowAndRoutesTheMessages)
 {
     CWnd parent;
     ASSERT_TRUE(CreateTopLevel(parent));
-    HWND hButton = ::CreateWindowExA(0, "BUTTON", "b", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, parent.m_hWnd,
-                                     (HMENU)9, nullptr, nullptr);
+    HWND hButton = ::CreateWindowExA(0, "BUTTON", "b", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, parent.m_hWnd, (HMENU)9,
+                                     nullptr, nullptr);
     CCreationWnd wnd;
     ASSERT_TRUE(wnd.SubclassDlgItem(9, &parent));
     EXPECT_EQ(hButton, wnd.m_hWnd);
@@ -242,7 +242,10 @@ TEST(CWnd, MessagesOfAWindowArriveInTheirOrder)
     spy.Mark(2);
     wnd.SendMessage(WM_APP, 3, 4);
     using kivtest::Expected;
-    EXPECT_TRUE(spy.Matches({{WM_SETTEXT}, Expected::Marker(1), {WM_SIZE, Expected::kWParam, SIZE_RESTORED},
-                             Expected::Marker(2), {WM_APP, Expected::kWParam | Expected::kLParam, 3, 4}}));
+    EXPECT_TRUE(spy.Matches({{WM_SETTEXT},
+                             Expected::Marker(1),
+                             {WM_SIZE, Expected::kWParam, SIZE_RESTORED},
+                             Expected::Marker(2),
+                             {WM_APP, Expected::kWParam | Expected::kLParam, 3, 4}}));
     wnd.DestroyWindow();
 }

@@ -22,8 +22,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace
-{
+namespace {
 
 std::wstring FromCodePage(UINT codePage, const char* text, int length)
 {
@@ -85,8 +84,8 @@ std::wstring TripleKey(const std::wstring& id, const std::wstring& section, cons
 // What the control file says, read once per load of the library.
 struct Answers
 {
-    std::unordered_map<std::wstring, std::wstring> languages; // setting -> id
-    std::unordered_map<std::wstring, std::wstring> strings;   // id, section, key -> text
+    std::unordered_map<std::wstring, std::wstring> languages;  // setting -> id
+    std::unordered_map<std::wstring, std::wstring> strings;    // id, section, key -> text
     std::vector<std::array<std::wstring, 4>> records;
     long generated = 0;
     bool emptyTable = false;
@@ -222,7 +221,7 @@ void BuildTable(const Answers& answers)
     g_table.push_back(nullptr);
 }
 
-} // namespace
+}  // namespace
 
 extern "C" CString RecordingGetLanguageID(const char* languageSetting)
 {
