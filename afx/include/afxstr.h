@@ -2,6 +2,7 @@
 // (UTF-16), with the semantics of MFC's CString and CStringW.
 #pragma once
 
+#include "afxsubstr_.h"
 #include "afxver_.h"
 
 #include <cstdarg>
@@ -373,13 +374,10 @@ public:
     }
     CStringT Mid(int iFirst, int nCount) const
     {
-        // Never a range outside the text, and no overflow of iFirst + nCount.
-        int length = GetLength();
-        iFirst = iFirst < 0 ? 0 : iFirst > length ? length : iFirst;
-        nCount = nCount < 0 ? 0 : nCount > length - iFirst ? length - iFirst : nCount;
-        if (iFirst == 0 && nCount == length)
+        kiv::rules::SubstringRange r = kiv::rules::ClampSubstring(GetLength(), iFirst, nCount);
+        if (r.first == 0 && r.count == GetLength())
             return *this;
-        return CStringT(GetString() + iFirst, nCount);
+        return CStringT(GetString() + r.first, r.count);
     }
     CStringT Left(int nCount) const
     {

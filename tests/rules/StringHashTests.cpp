@@ -1,5 +1,5 @@
 #include "StringHash.h"
-#include "SubstringRange.h"
+#include "afxsubstr_.h"
 
 #include <gtest/gtest.h>
 
