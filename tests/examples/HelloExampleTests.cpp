@@ -1,0 +1,254 @@
+// examples/hello, the smallest host, started from the build folder of its outside build: its
+// dialog shows the German texts of lang/de.po, and a run leaves that file byte for byte as it
+// was unless it asks for a text the file lacks.
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include "resource.h"
+
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+namespace {
+
+constexpr DWORD kWaitMs = 30000;
+
+// The example's build folder as Wine sees it: the Unix root is drive Z:.
+std::string ExampleFolder()
+{
+    const char* unixPath = std::getenv("KIV_HELLO_DIR");
+    std::string folder = unixPath != nullptr ? unixPath : "";
+    if (!folder.empty() && folder[0] == '/')
+        folder = "Z:" + folder;
+    for (char& c : folder)
+        if (c == '/')
+            c = '\\';
+    return folder;
+}
+
+std::string ReadBytes(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+void WriteBytes(const std::string& path, const std::string& bytes)
+{
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
+}
+
+std::wstring Text(HWND hWnd)
+{
+    wchar_t text[512] = {};
+    ::GetWindowTextW(hWnd, text, 512);
+    return text;
+}
+
+std::wstring ClassName(HWND hWnd)
+{
+    wchar_t name[64] = {};
+    ::GetClassNameW(hWnd, name, 64);
+    return name;
+}
+
+// One run of hello.exe, started from its folder so that it finds kiv.ini and lang/ there.
+class HelloRun
+{
+public:
+    HelloRun(const std::string& folder, const char* switches)
+    {
+        std::string commandLine = "\"" + folder + "\\hello.exe\" " + switches;
+        STARTUPINFOA startup = {};
+        startup.cb = sizeof(startup);
+        m_bStarted = ::CreateProcessA(nullptr, &commandLine[0], nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                                      &startup, &m_process) != FALSE;
+    }
+    ~HelloRun()
+    {
+        if (!m_bStarted)
+            return;
+        if (::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT)
+            ::TerminateProcess(m_process.hProcess, 99);
+        ::CloseHandle(m_process.hThread);
+        ::CloseHandle(m_process.hProcess);
+    }
+    HelloRun(const HelloRun&) = delete;
+    HelloRun& operator=(const HelloRun&) = delete;
+
+    bool Started() const { return m_bStarted; }
+
+    // The hello dialog, once it is on the screen; null when it does not come.
+    HWND WaitForDialog() const
+    {
+        return WaitForWindow([](HWND hWnd) { return ::GetDlgItem(hWnd, IDC_GREETING) != nullptr; });
+    }
+    // A message box: a dialog window without the hello dialog's controls.
+    HWND WaitForMessageBox() const
+    {
+        return WaitForWindow([](HWND hWnd) { return ::GetDlgItem(hWnd, IDC_GREETING) == nullptr; });
+    }
+
+    // The exit code once the process has ended, or -1 when it does not end in time.
+    long WaitForExit() const
+    {
+        DWORD code = 0;
+        if (::WaitForSingleObject(m_process.hProcess, kWaitMs) != WAIT_OBJECT_0 ||
+            !::GetExitCodeProcess(m_process.hProcess, &code))
+            return -1;
+        return (long)code;
+    }
+
+private:
+    HWND WaitForWindow(const std::function<bool(HWND)>& matches) const
+    {
+        for (DWORD start = ::GetTickCount(); ::GetTickCount() - start < kWaitMs; ::Sleep(50))
+        {
+            Search search{m_process.dwProcessId, &matches, nullptr};
+            ::EnumWindows(&HelloRun::Visit, (LPARAM)&search);
+            if (search.found != nullptr)
+                return search.found;
+        }
+        return nullptr;
+    }
+
+    struct Search
+    {
+        DWORD processId;
+        const std::function<bool(HWND)>* matches;
+        HWND found;
+    };
+    static BOOL CALLBACK Visit(HWND hWnd, LPARAM lParam)
+    {
+        Search* search = (Search*)lParam;
+        DWORD processId = 0;
+        ::GetWindowThreadProcessId(hWnd, &processId);
+        if (processId != search->processId || !::IsWindowVisible(hWnd) || ClassName(hWnd) != L"#32770" ||
+            !(*search->matches)(hWnd))
+            return TRUE;
+        search->found = hWnd;
+        return FALSE;
+    }
+
+    PROCESS_INFORMATION m_process = {};
+    bool m_bStarted = false;
+};
+
+// The text of the first static control with a text: a message box's message.
+std::wstring MessageText(HWND hBox)
+{
+    for (HWND child = ::GetWindow(hBox, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+        if (ClassName(child) == L"Static" && !Text(child).empty())
+            return Text(child);
+    return std::wstring();
+}
+
+class HelloExample : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        m_folder = ExampleFolder();
+        ASSERT_FALSE(m_folder.empty()) << "KIV_HELLO_DIR names the example's build folder";
+        m_languageFile = m_folder + "\\lang\\de.po";
+        m_original = ReadBytes(m_languageFile);
+        ASSERT_FALSE(m_original.empty()) << m_languageFile;
+        // The example reads the kiv.ini beside it, not one named for the test program.
+        ::SetEnvironmentVariableA("KIV_INI", nullptr);
+    }
+    // The next test starts from the file the example ships, whatever this one did to it.
+    void TearDown() override
+    {
+        if (!m_original.empty() && ReadBytes(m_languageFile) != m_original)
+            WriteBytes(m_languageFile, m_original);
+    }
+
+    // One run that is closed with the given button; the exit code, or -1.
+    long RunAndClose(const char* switches, int button)
+    {
+        HelloRun run(m_folder, switches);
+        if (!run.Started())
+            return -1;
+        HWND hDialog = run.WaitForDialog();
+        if (hDialog == nullptr)
+            return -1;
+        ::PostMessageW(hDialog, WM_COMMAND, button, 0);
+        return run.WaitForExit();
+    }
+
+    std::string m_folder;
+    std::string m_languageFile;
+    std::string m_original;
+};
+
+}  // namespace
+
+TEST_F(HelloExample, ShowsTheGermanTextsOfItsLanguageFile)
+{
+    HelloRun run(m_folder, "");
+    ASSERT_TRUE(run.Started());
+    HWND hDialog = run.WaitForDialog();
+    ASSERT_NE(nullptr, hDialog);
+    EXPECT_EQ(L"Hallo KivMFC", Text(hDialog));
+    EXPECT_EQ(L"Hallo! Dieser Dialog spricht die Sprache, die kiv.ini w\x00E4hlt.",
+              Text(::GetDlgItem(hDialog, IDC_GREETING)));
+    EXPECT_EQ(L"Auswahl &merken", Text(::GetDlgItem(hDialog, IDC_REMEMBER)));
+    EXPECT_EQ(L"&Tipps beim Start zeigen", Text(::GetDlgItem(hDialog, IDC_SHOW_TIPS)));
+    EXPECT_EQ(L"OK", Text(::GetDlgItem(hDialog, IDOK)));
+    EXPECT_EQ(L"Abbrechen", Text(::GetDlgItem(hDialog, IDCANCEL)));
+    EXPECT_EQ(L"", Text(::GetDlgItem(hDialog, IDC_NEWS)));
+    EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(hDialog, IDC_NEWS)));
+
+    ::PostMessageW(hDialog, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_EQ(0, run.WaitForExit());
+    EXPECT_EQ(m_original, ReadBytes(m_languageFile));
+}
+
+TEST_F(HelloExample, TenRunsLeaveTheLanguageFileByteForByteTheSame)
+{
+    for (int i = 0; i < 10; ++i)
+    {
+        ASSERT_EQ(0, RunAndClose("", i % 2 == 0 ? IDOK : IDCANCEL)) << "run " << i;
+        ASSERT_EQ(m_original, ReadBytes(m_languageFile)) << "after run " << i;
+    }
+}
+
+TEST_F(HelloExample, ATextTheFileLacksIsShownInEnglishAndAddedOnceWithAnEmptyTranslation)
+{
+    const std::string added = "\nmsgctxt \"STRINGTABLE\\n102\"\n"
+                              "msgid \"Printing arrives with the next version.\"\n"
+                              "msgstr \"\"\n";
+    {
+        HelloRun run(m_folder, "/news");
+        ASSERT_TRUE(run.Started());
+        HWND hDialog = run.WaitForDialog();
+        ASSERT_NE(nullptr, hDialog);
+        EXPECT_EQ(L"Printing arrives with the next version.", Text(::GetDlgItem(hDialog, IDC_NEWS)));
+        EXPECT_TRUE(::IsWindowVisible(::GetDlgItem(hDialog, IDC_NEWS)));
+        EXPECT_EQ(L"Abbrechen", Text(::GetDlgItem(hDialog, IDCANCEL)));
+        ::PostMessageW(hDialog, WM_COMMAND, IDOK, 0);
+        ASSERT_EQ(0, run.WaitForExit());
+    }
+    EXPECT_EQ(m_original + added, ReadBytes(m_languageFile));
+    ASSERT_EQ(0, RunAndClose("/news", IDOK));
+    EXPECT_EQ(m_original + added, ReadBytes(m_languageFile));
+}
+
+TEST_F(HelloExample, MessageSwitchShowsTheGermanStringTableTextBeforeTheDialog)
+{
+    HelloRun run(m_folder, "/message");
+    ASSERT_TRUE(run.Started());
+    HWND hBox = run.WaitForMessageBox();
+    ASSERT_NE(nullptr, hBox);
+    EXPECT_EQ(L"Willkommen: Diese Meldung stammt aus der Stringtabelle.", MessageText(hBox));
+    ::PostMessageW(hBox, WM_COMMAND, IDOK, 0);
+
+    HWND hDialog = run.WaitForDialog();
+    ASSERT_NE(nullptr, hDialog);
+    EXPECT_EQ(L"Hallo KivMFC", Text(hDialog));
+    ::PostMessageW(hDialog, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_EQ(0, run.WaitForExit());
+    EXPECT_EQ(m_original, ReadBytes(m_languageFile));
+}
