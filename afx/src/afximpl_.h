@@ -123,6 +123,32 @@ private:
     static void PASCAL SetHandle(CObject* p, HANDLE h) { Traits::Set(static_cast<TObject*>(p), (Handle)h); }
 };
 
+// The handle-map members of a wrapper class, each one call of its CTypedHandleMap.
+#define AFX_IMPLEMENT_FROMHANDLE(TClass, THandle)                                                                      \
+    TClass* PASCAL TClass::FromHandle(THandle h)                                                                       \
+    {                                                                                                                  \
+        return CTypedHandleMap<TClass>::FromHandle(h);                                                                 \
+    }
+#define AFX_IMPLEMENT_FROMHANDLEPERMANENT(TClass, THandle)                                                             \
+    TClass* PASCAL TClass::FromHandlePermanent(THandle h)                                                              \
+    {                                                                                                                  \
+        return CTypedHandleMap<TClass>::FromHandlePermanent(h);                                                        \
+    }
+#define AFX_IMPLEMENT_DELETETEMPMAP(TClass)                                                                            \
+    void PASCAL TClass::DeleteTempMap()                                                                                \
+    {                                                                                                                  \
+        CTypedHandleMap<TClass>::DeleteTemp();                                                                         \
+    }
+#define AFX_IMPLEMENT_ATTACH_DETACH(TClass, THandle)                                                                   \
+    BOOL TClass::Attach(THandle h)                                                                                     \
+    {                                                                                                                  \
+        return CTypedHandleMap<TClass>::Attach(this, h);                                                               \
+    }                                                                                                                  \
+    THandle TClass::Detach()                                                                                           \
+    {                                                                                                                  \
+        return CTypedHandleMap<TClass>::Detach(this);                                                                  \
+    }
+
 // Reflected messages
 
 // An owner-drawn control draws itself when its parent reflects WM_DRAWITEM to it; other

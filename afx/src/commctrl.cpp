@@ -30,25 +30,9 @@ __attribute__((noinline)) HIMAGELIST CImageList::GetSafeHandle() const
     return pThis == nullptr ? nullptr : m_hImageList;
 }
 
-CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList)
-{
-    return CTypedHandleMap<CImageList>::FromHandle(hImageList);
-}
-
-CImageList* PASCAL CImageList::FromHandlePermanent(HIMAGELIST hImageList)
-{
-    return CTypedHandleMap<CImageList>::FromHandlePermanent(hImageList);
-}
-
-BOOL CImageList::Attach(HIMAGELIST hImageList)
-{
-    return CTypedHandleMap<CImageList>::Attach(this, hImageList);
-}
-
-HIMAGELIST CImageList::Detach()
-{
-    return CTypedHandleMap<CImageList>::Detach(this);
-}
+AFX_IMPLEMENT_FROMHANDLE(CImageList, HIMAGELIST)
+AFX_IMPLEMENT_FROMHANDLEPERMANENT(CImageList, HIMAGELIST)
+AFX_IMPLEMENT_ATTACH_DETACH(CImageList, HIMAGELIST)
 
 BOOL CImageList::DeleteImageList()
 {

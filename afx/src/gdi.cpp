@@ -24,29 +24,13 @@ __attribute__((noinline)) HDC AFXAPI AfxGetSafeHdc(const CDC* pDC)
 
 // GDI objects
 
-CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject)
-{
-    return CTypedHandleMap<CGdiObject>::FromHandle(hObject);
-}
-
-void PASCAL CGdiObject::DeleteTempMap()
-{
-    CTypedHandleMap<CGdiObject>::DeleteTemp();
-}
+AFX_IMPLEMENT_FROMHANDLE(CGdiObject, HGDIOBJ)
+AFX_IMPLEMENT_DELETETEMPMAP(CGdiObject)
+AFX_IMPLEMENT_ATTACH_DETACH(CGdiObject, HGDIOBJ)
 
 CGdiObject::~CGdiObject()
 {
     DeleteObject();
-}
-
-BOOL CGdiObject::Attach(HGDIOBJ hObject)
-{
-    return CTypedHandleMap<CGdiObject>::Attach(this, hObject);
-}
-
-HGDIOBJ CGdiObject::Detach()
-{
-    return CTypedHandleMap<CGdiObject>::Detach(this);
 }
 
 BOOL CGdiObject::DeleteObject()
@@ -124,15 +108,9 @@ template <typename TResult, typename TFunc> TResult OnBothDCs(const CDC* pDC, TR
 
 }  // namespace
 
-CDC* PASCAL CDC::FromHandle(HDC hDC)
-{
-    return CTypedHandleMap<CDC>::FromHandle(hDC);
-}
-
-void PASCAL CDC::DeleteTempMap()
-{
-    CTypedHandleMap<CDC>::DeleteTemp();
-}
+AFX_IMPLEMENT_FROMHANDLE(CDC, HDC)
+AFX_IMPLEMENT_DELETETEMPMAP(CDC)
+AFX_IMPLEMENT_ATTACH_DETACH(CDC, HDC)
 
 CDC::~CDC()
 {
@@ -143,16 +121,6 @@ CDC::~CDC()
 CWnd* CDC::GetWindow() const
 {
     return CWnd::FromHandle(::WindowFromDC(m_hDC));
-}
-
-BOOL CDC::Attach(HDC hDC)
-{
-    return CTypedHandleMap<CDC>::Attach(this, hDC);
-}
-
-HDC CDC::Detach()
-{
-    return CTypedHandleMap<CDC>::Detach(this);
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC)

@@ -13,30 +13,10 @@ CMenu::~CMenu()
     DestroyMenu();
 }
 
-CMenu* PASCAL CMenu::FromHandle(HMENU hMenu)
-{
-    return CTypedHandleMap<CMenu>::FromHandle(hMenu);
-}
-
-CMenu* PASCAL CMenu::FromHandlePermanent(HMENU hMenu)
-{
-    return CTypedHandleMap<CMenu>::FromHandlePermanent(hMenu);
-}
-
-void PASCAL CMenu::DeleteTempMap()
-{
-    CTypedHandleMap<CMenu>::DeleteTemp();
-}
-
-BOOL CMenu::Attach(HMENU hMenu)
-{
-    return CTypedHandleMap<CMenu>::Attach(this, hMenu);
-}
-
-HMENU CMenu::Detach()
-{
-    return CTypedHandleMap<CMenu>::Detach(this);
-}
+AFX_IMPLEMENT_FROMHANDLE(CMenu, HMENU)
+AFX_IMPLEMENT_FROMHANDLEPERMANENT(CMenu, HMENU)
+AFX_IMPLEMENT_DELETETEMPMAP(CMenu)
+AFX_IMPLEMENT_ATTACH_DETACH(CMenu, HMENU)
 
 BOOL CMenu::DestroyMenu()
 {

@@ -36,30 +36,10 @@ __attribute__((noinline)) HWND AFXAPI AfxGetSafeHwnd(const CWnd* pWnd)
 
 // Handle maps
 
-CWnd* PASCAL CWnd::FromHandle(HWND hWnd)
-{
-    return CTypedHandleMap<CWnd>::FromHandle(hWnd);
-}
-
-CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd)
-{
-    return CTypedHandleMap<CWnd>::FromHandlePermanent(hWnd);
-}
-
-void PASCAL CWnd::DeleteTempMap()
-{
-    CTypedHandleMap<CWnd>::DeleteTemp();
-}
-
-BOOL CWnd::Attach(HWND hWndNew)
-{
-    return CTypedHandleMap<CWnd>::Attach(this, hWndNew);
-}
-
-HWND CWnd::Detach()
-{
-    return CTypedHandleMap<CWnd>::Detach(this);
-}
+AFX_IMPLEMENT_FROMHANDLE(CWnd, HWND)
+AFX_IMPLEMENT_FROMHANDLEPERMANENT(CWnd, HWND)
+AFX_IMPLEMENT_DELETETEMPMAP(CWnd)
+AFX_IMPLEMENT_ATTACH_DETACH(CWnd, HWND)
 
 BOOL CWnd::SubclassWindow(HWND hWnd)
 {
