@@ -8,6 +8,8 @@
 #include "KivMFCResource.h"
 #include "LocalizationManager.h"
 #include "KivLoadStoreTranslations.h"
+#include "ColorButton.h"
+#include "UnicodeButton.h"
 #include "strString.h"
 #include "strStringW.h"
 #include "strFilename.h"

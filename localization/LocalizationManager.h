@@ -35,6 +35,15 @@ public:
     // 1 while the setting Environment/LanguageSetting is non-empty, read anew on each call.
     int IsTranslationMode();
 
+    // Retitles the static texts and buttons among a dialog's descendants, under the section
+    // of the dialog's id ("%d") or the given name; the dialog's own caption stays. 1 when the
+    // walk ran, 0 outside translation mode.
+    int TranslateDialog(CWnd* dialog, int dialogId);
+    int TranslateDialog(CWnd* dialog, CString section);
+    // Retitles one window from the cache, in every mode; a miss is recorded untranslated.
+    void SendTranslationToWnd(HWND window, CString defaultText, CString key, CString section);
+    void SendTranslationToWnd(HWND window, CString defaultText, int key, int section);
+
     // Message boxes under the section "STRINGTABLE", with no owner; the answer is dropped.
     void ShowMessageBox(int id);
     void ShowMessageBox(int id, unsigned int type);
@@ -64,6 +73,7 @@ private:
     void CacheTranslation(const CString& defaultText, const CStringW& translatedText, const CString& key,
                           const CString& section);
     void ClearTranslationCache();
+    void TranslateDialogRecursive(CWnd* parent, CString section);
     void LoadTranslations();
     void StoreTranslations();
 

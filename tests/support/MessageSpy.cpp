@@ -81,6 +81,8 @@ void MessageSpy::Record(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
     if (m_ignore.count(message))
         return;
     m_messages.push_back({hWnd, message, wParam, lParam, false});
+    if (m_text.count(message) && lParam != 0)
+        m_messages.back().text = reinterpret_cast<const char*>(lParam);
 }
 
 void MessageSpy::Mark(UINT id)

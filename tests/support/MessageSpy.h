@@ -7,6 +7,7 @@
 
 #include <initializer_list>
 #include <set>
+#include <string>
 #include <vector>
 
 namespace kivtest {
@@ -17,7 +18,8 @@ struct SpyMessage
     UINT message;
     WPARAM wParam;
     LPARAM lParam;
-    bool marker;  // a step boundary; message holds the marker's number
+    bool marker;            // a step boundary; message holds the marker's number
+    std::string text = {};  // lParam's narrow text, for the messages asked for by CaptureText
 };
 
 // One expected entry. Parameters are compared only when asked for.
@@ -51,6 +53,9 @@ public:
     // Records only these messages (an empty list records all).
     void Only(std::initializer_list<UINT> messages) { m_only = messages; }
     void Ignore(std::initializer_list<UINT> messages) { m_ignore.insert(messages.begin(), messages.end()); }
+    // For these messages lParam is read as a narrow string when they arrive (the spy is a
+    // narrow window procedure, so a wide WM_SETTEXT reaches it converted).
+    void CaptureText(std::initializer_list<UINT> messages) { m_text.insert(messages.begin(), messages.end()); }
     void Mark(UINT id);
     void Clear() { m_messages.clear(); }
 
@@ -67,6 +72,7 @@ private:
     std::vector<SpyMessage> m_messages;
     std::set<UINT> m_only;
     std::set<UINT> m_ignore;
+    std::set<UINT> m_text;
     std::vector<HWND> m_watched;
 };
 
