@@ -4,6 +4,7 @@
 #include "resource.h"
 
 #include <cstring>
+#include <gdiplus.h>
 
 CHelloApp theApp;
 
@@ -11,6 +12,10 @@ CHelloApp::CHelloApp() : CWinApp("Hello") {}
 
 BOOL CHelloApp::InitInstance()
 {
+    // The wide-text buttons draw their captions with GDI+, which the host starts.
+    Gdiplus::GdiplusStartupInput gdiplusInput;
+    Gdiplus::GdiplusStartup(&m_gdiplusToken, &gdiplusInput, nullptr);
+
     // The manager's own start-up keeps one character of each stored text: this puts the
     // translators' texts in its cache before the first window.
     KivLoadStoreTranslations();
@@ -30,6 +35,7 @@ int CHelloApp::ExitInstance()
 {
     // The last call into the manager: writes the texts the store lacks to the language file.
     LocalizationManager::Dispose();
+    Gdiplus::GdiplusShutdown(m_gdiplusToken);
     CWinApp::ExitInstance();
     // Not the last message's wParam, which the dialog's loop left behind.
     return 0;

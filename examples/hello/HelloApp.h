@@ -16,4 +16,6 @@ public:
 private:
     // TRUE when the command line holds the switch, for example "/message".
     BOOL HasSwitch(LPCSTR lpszSwitch) const;
+
+    ULONG_PTR m_gdiplusToken = 0;
 };

@@ -1,4 +1,5 @@
-// The hello host's one dialog: a greeting, two check boxes, OK and Cancel, all translated.
+// The hello host's one dialog: a greeting, two check boxes, two radio buttons, OK and Cancel,
+// all translated.
 #pragma once
 
 #include <KivMFC.h>
@@ -14,7 +15,14 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
-    void TranslateTexts();
+    static CString Section();
+    void ApplyTranslatedFont();
+    void TranslateCaption();
+    void ShowNews();
 
     BOOL m_bShowNews;
+    // Buttons that draw their translations as wide text, whatever the ANSI code page.
+    CUnicodeButton m_remember, m_showTips, m_small, m_large, m_ok, m_cancel;
+    CStatic m_news;
+    CFont m_font;
 };

@@ -8,6 +8,9 @@
 #define IDC_REMEMBER 1001
 #define IDC_SHOW_TIPS 1002
 #define IDC_NEWS 1003
+#define IDC_SMALL 1004
+#define IDC_LARGE 1005
+#define IDC_PREVIEWS 1006
 
 #define IDS_WELCOME 101
 #define IDS_NEWS 102

@@ -4,6 +4,8 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
+#include "PixelProbe.h"
+#include "Screenshot.h"
 #include "resource.h"
 
 #include <fstream>
@@ -11,15 +13,17 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
 constexpr DWORD kWaitMs = 30000;
 
-// The example's build folder as Wine sees it: the Unix root is drive Z:.
-std::string ExampleFolder()
+// A folder named by the environment, as Wine sees it: the Unix root is drive Z:.
+std::string FolderFromEnvironment(const char* variable)
 {
-    const char* unixPath = std::getenv("KIV_HELLO_DIR");
+    const char* unixPath = std::getenv(variable);
     std::string folder = unixPath != nullptr ? unixPath : "";
     if (!folder.empty() && folder[0] == '/')
         folder = "Z:" + folder;
@@ -27,6 +31,11 @@ std::string ExampleFolder()
         if (c == '/')
             c = '\\';
     return folder;
+}
+
+std::string ExampleFolder()
+{
+    return FolderFromEnvironment("KIV_HELLO_DIR");
 }
 
 std::string ReadBytes(const std::string& path)
@@ -145,6 +154,14 @@ std::wstring MessageText(HWND hBox)
     return std::wstring();
 }
 
+// Where the screenshots of the example go: screenshots/ in its build folder.
+std::wstring ScreenshotPath(const char* name)
+{
+    std::string folder = ExampleFolder() + "\\screenshots";
+    ::CreateDirectoryA(folder.c_str(), nullptr);
+    return std::wstring(CStringW((folder + "\\" + name).c_str()));
+}
+
 class HelloExample : public testing::Test
 {
 protected:
@@ -155,6 +172,8 @@ protected:
         m_languageFile = m_folder + "\\lang\\de.po";
         m_original = ReadBytes(m_languageFile);
         ASSERT_FALSE(m_original.empty()) << m_languageFile;
+        for (const char* language : {"el", "ja"})
+            m_others.emplace_back(LanguageFile(language), ReadBytes(LanguageFile(language)));
         // The example reads the kiv.ini beside it, not one named for the test program.
         ::SetEnvironmentVariableA("KIV_INI", nullptr);
     }
@@ -163,6 +182,21 @@ protected:
     {
         if (!m_original.empty() && ReadBytes(m_languageFile) != m_original)
             WriteBytes(m_languageFile, m_original);
+        for (const auto& [path, bytes] : m_others)
+            if (ReadBytes(path) != bytes)
+                WriteBytes(path, bytes);
+        ::SetEnvironmentVariableA("KIV_INI", nullptr);
+    }
+
+    std::string LanguageFile(const char* language) const { return m_folder + "\\lang\\" + language + ".po"; }
+
+    // Runs that follow read a settings file of the test's own that names this language.
+    void ChooseLanguage(const char* name)
+    {
+        std::string ini = m_folder + "\\kiv-test.ini";
+        WriteBytes(ini, std::string("[Environment]\r\nLanguageSetting=") + name +
+                            "\r\n[Store]\r\nDirectory=" + m_folder + "\\lang\r\n");
+        ::SetEnvironmentVariableA("KIV_INI", ini.c_str());
     }
 
     // One run that is closed with the given button; the exit code, or -1.
@@ -181,6 +215,7 @@ protected:
     std::string m_folder;
     std::string m_languageFile;
     std::string m_original;
+    std::vector<std::pair<std::string, std::string>> m_others;
 };
 
 }  // namespace
@@ -198,8 +233,12 @@ TEST_F(HelloExample, ShowsTheGermanTextsOfItsLanguageFile)
     EXPECT_EQ(L"&Tipps beim Start zeigen", Text(::GetDlgItem(hDialog, IDC_SHOW_TIPS)));
     EXPECT_EQ(L"OK", Text(::GetDlgItem(hDialog, IDOK)));
     EXPECT_EQ(L"Abbrechen", Text(::GetDlgItem(hDialog, IDCANCEL)));
-    EXPECT_EQ(L"", Text(::GetDlgItem(hDialog, IDC_NEWS)));
-    EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(hDialog, IDC_NEWS)));
+    EXPECT_EQ(L"Vorschaubilder", Text(::GetDlgItem(hDialog, IDC_PREVIEWS)));
+    EXPECT_EQ(L"&Klein", Text(::GetDlgItem(hDialog, IDC_SMALL)));
+    EXPECT_EQ(L"&Gro\x00DF", Text(::GetDlgItem(hDialog, IDC_LARGE)));
+    EXPECT_EQ(nullptr, ::GetDlgItem(hDialog, IDC_NEWS));
+    ::Sleep(300);  // the first paint of every control
+    EXPECT_TRUE(kivtest::SaveWindowPng(hDialog, ScreenshotPath("hello-de.png")));
 
     ::PostMessageW(hDialog, WM_COMMAND, IDCANCEL, 0);
     EXPECT_EQ(0, run.WaitForExit());
@@ -251,4 +290,63 @@ TEST_F(HelloExample, MessageSwitchShowsTheGermanStringTableTextBeforeTheDialog)
     ::PostMessageW(hDialog, WM_COMMAND, IDCANCEL, 0);
     EXPECT_EQ(0, run.WaitForExit());
     EXPECT_EQ(m_original, ReadBytes(m_languageFile));
+}
+
+namespace {
+
+// The window's pixels as they are on the screen.
+kivtest::PixelProbe ScreenPixels(HWND hWnd, RECT& rect)
+{
+    ::GetWindowRect(hWnd, &rect);
+    kivtest::PixelProbe probe(rect.right - rect.left, rect.bottom - rect.top);
+    HDC hScreen = ::GetDC(nullptr);
+    ::BitBlt(probe.DC(), 0, 0, probe.Width(), probe.Height(), hScreen, rect.left, rect.top, SRCCOPY);
+    ::ReleaseDC(nullptr, hScreen);
+    return probe;
+}
+
+// Pixels of a button's caption, right of its check mark, that differ from the colour at the
+// button's right end (where no caption reaches).
+int CaptionInk(HWND hButton)
+{
+    RECT rect;
+    kivtest::PixelProbe probe = ScreenPixels(hButton, rect);
+    int height = probe.Height();
+    COLORREF background = probe.Pixel(probe.Width() - 2, height / 2);
+    int ink = 0;
+    for (int y = 0; y < height; ++y)
+        for (int x = height; x < probe.Width() * 2 / 3; ++x)
+            ink += probe.Pixel(x, y) != background ? 1 : 0;
+    return ink;
+}
+
+}  // namespace
+
+TEST_F(HelloExample, ShowsGreekAndJapaneseCaptionsAsWideTextOnItsButtons)
+{
+    std::vector<int> inkPerLanguage;
+    for (const char* language : {"Greek", "Japanese"})
+    {
+        ChooseLanguage(language);
+        HelloRun run(m_folder, "");
+        ASSERT_TRUE(run.Started());
+        HWND hDialog = run.WaitForDialog();
+        ASSERT_NE(nullptr, hDialog) << language;
+        ::Sleep(300);  // the first paint of every control
+        EXPECT_EQ(language[0] == 'G' ? L"\x0393\x03B5\x03B9\x03B1 \x03C3\x03BF\x03C5, KivMFC"
+                                     : L"\x3053\x3093\x306B\x3061\x306F KivMFC",
+                  Text(hDialog));
+        for (int id : {IDC_REMEMBER, IDC_SHOW_TIPS, IDC_SMALL, IDC_LARGE})
+            EXPECT_GT(CaptionInk(::GetDlgItem(hDialog, id)), 20) << language << " control " << id;
+        inkPerLanguage.push_back(CaptionInk(::GetDlgItem(hDialog, IDC_REMEMBER)));
+        std::string name = std::string("hello-") + (language[0] == 'G' ? "el" : "ja") + ".png";
+        EXPECT_TRUE(kivtest::SaveWindowPng(hDialog, ScreenshotPath(name.c_str())));
+        ::PostMessageW(hDialog, WM_COMMAND, IDCANCEL, 0);
+        EXPECT_EQ(0, run.WaitForExit());
+    }
+    // Two scripts, two different captions on the same button.
+    EXPECT_NE(inkPerLanguage[0], inkPerLanguage[1]);
+    // Every text of both files is translated: the runs leave them as they were.
+    for (const auto& [path, bytes] : m_others)
+        EXPECT_EQ(bytes, ReadBytes(path)) << path;
 }
