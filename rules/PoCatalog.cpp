@@ -189,7 +189,7 @@ std::vector<PoRecord> PoCatalog::Records() const
         if (m_sharedContexts && Lookup(entry.context) != i)
             continue;
         records.push_back(
-            {entry.msgid, entry.msgstr, entry.context.substr(lineFeed + 1), entry.context.substr(0, lineFeed)});
+            {entry.msgid, entry.Translation(), entry.context.substr(lineFeed + 1), entry.context.substr(0, lineFeed)});
     }
     return records;
 }

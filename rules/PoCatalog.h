@@ -70,6 +70,8 @@ public:
     const PoEntry* Find(std::string_view context) const;
     // The header's names of the language.
     std::vector<std::string> LanguageNames() const;
+    // The records a host sees: entries with a section and a key, without plural forms; a fuzzy
+    // entry's translation reads as none.
     std::vector<PoRecord> Records() const;
     bool IsChanged() const noexcept { return m_changed; }
 

@@ -149,7 +149,7 @@ int LanguageStore::Get(const char* id, const std::string& context, CStringW* tex
         return kStoreNotHeld;
     if (!text)
         return kStoreRefusedText;
-    AssignUtf8(*text, entry->msgstr);
+    AssignUtf8(*text, entry->Translation());
     return kStoreOk;
 }
 

@@ -377,8 +377,8 @@ TEST_F(KivStore, HostileTextsRoundTrip)
 TEST_F(KivStore, LongTextsRoundTrip)
 {
     WriteFile("de.po", kHeader);
-    std::wstring longText;
-    for (int i = 0; i < 5000; ++i)
+    std::wstring longText;  // no line feed at its end, as its default text
+    for (int i = 0; i < 4999; ++i)
         longText += i % 100 == 99 ? L'\n' : static_cast<wchar_t>(L'a' + i % 26);
     std::string longDefault(20000, 'x');
     Load();
@@ -444,7 +444,7 @@ TEST_F(KivStore, KeyWithLineFeedsIsOneKey)
 
 // msgfmt -c refuses a translation whose leading or trailing line feed differs from its default
 // text. The translation is kept, and the entry flagged fuzzy so that the file stays valid and a
-// translator sees it needs review; the store still answers the text.
+// translator sees it needs review; until then the store answers no translation for it.
 TEST_F(KivStore, TranslationWithOtherOuterLineFeedsIsKeptAndFlaggedFuzzy)
 {
     WriteFile("de.po", kHeader);
@@ -458,11 +458,35 @@ TEST_F(KivStore, TranslationWithOtherOuterLineFeedsIsKeptAndFlaggedFuzzy)
                   "\nmsgctxt \"S\\n3\"\nmsgid \"\"\n\"\\n\"\n\"Line\"\nmsgstr \"\"\n\"\\n\"\n\"Zeile\"\n",
               ReadFile("de.po"));
     Load();
-    EXPECT_STREQ(L"Zeile", Held("de", "S", "1"));
+    EXPECT_STREQ(L"", Held("de", "S", "1"));
     EXPECT_EQ(kStoreOk, Update(L"Zeile\n", "de", "S", "2"));
     Unload();
     EXPECT_NE(std::string::npos, ReadFile("de.po").find("\n#, fuzzy\nmsgctxt \"S\\n1\""));
     EXPECT_EQ(std::string::npos, ReadFile("de.po").find("\n#, fuzzy\nmsgctxt \"S\\n2\""));
+}
+
+// As gettext at run time: a fuzzy translation waits for a translator to confirm it. The entry
+// is held (no insertion), answers an empty translation, and is written back as it was.
+TEST_F(KivStore, FuzzyTranslationIsNotHandedOutAndTheEntryIsKept)
+{
+    const std::string fuzzy =
+        "\n#, fuzzy\n#| msgid \"Open\"\nmsgctxt \"100\\n1\"\nmsgid \"Open...\"\nmsgstr \"\u00D6ffnen\"\n";
+    WriteFile("de.po", kHeader + fuzzy + Entry("100", "2", "Close", "Schlie\u00DFen"));
+    Load();
+    EXPECT_STREQ(L"", Held("de", "100", "1"));
+    EXPECT_STREQ(L"Schlie\u00DFen", Held("de", "100", "2"));
+    CStringW** records = Strings("de");
+    ASSERT_NE(nullptr, records[0]);
+    ASSERT_NE(nullptr, records[1]);
+    EXPECT_EQ(nullptr, records[2]);
+    EXPECT_STREQ(L"Open...", records[0][0]);
+    EXPECT_STREQ(L"", records[0][1]);
+    EXPECT_STREQ(L"Schlie\u00DFen", records[1][1]);
+    EXPECT_EQ(kStoreAlreadyHeld, Insert("Open...", L"", "de", "100", "1"));
+    EXPECT_EQ(kStoreOk, Insert("Print", L"", "de", "100", "3"));
+    Unload();
+    EXPECT_EQ(kHeader + fuzzy + Entry("100", "2", "Close", "Schlie\u00DFen") + Entry("100", "3", "Print", ""),
+              ReadFile("de.po"));
 }
 
 TEST_F(KivStore, FileWithCrLfKeepsItsLineEnds)

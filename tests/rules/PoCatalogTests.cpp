@@ -253,3 +253,19 @@ TEST(PoCatalog, KeptChangesReadBackFromTheSideFile)
                                      {PoChange::kUpdate, "1\n4", "", "w"}}),
               back.KeptChanges());
 }
+
+// gettext uses no fuzzy translation at run time: the record is there, its translation is not.
+TEST(PoCatalog, RecordsGiveNoTranslationForAFuzzyEntry)
+{
+    PoCatalog catalog = Loaded("msgid \"\"\nmsgstr \"\"\n\"Content-Type: text/plain; charset=UTF-8\\n\"\n\n"
+                               "#, c-format, fuzzy\nmsgctxt \"1\\n2\"\nmsgid \"a %d\"\nmsgstr \"b %d\"\n\n"
+                               "#, c-format\nmsgctxt \"1\\n3\"\nmsgid \"c %d\"\nmsgstr \"d %d\"\n");
+    std::vector<kiv::rules::PoRecord> records = catalog.Records();
+    ASSERT_EQ(2u, records.size());
+    EXPECT_EQ("a %d", records[0].defaultText);
+    EXPECT_EQ("", records[0].translation);
+    EXPECT_EQ("d %d", records[1].translation);
+    ASSERT_NE(nullptr, catalog.Find("1\n2"));
+    EXPECT_EQ("b %d", catalog.Find("1\n2")->msgstr);  // kept in the file as the translator left it
+    EXPECT_EQ("", catalog.Find("1\n2")->Translation());
+}
