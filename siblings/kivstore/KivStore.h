@@ -6,7 +6,8 @@
 // kept in memory and written when the library is unloaded (or the process ends); each file is
 // replaced whole, through a new file, so it is always the old or the new one. A file the store
 // cannot read, or cannot replace, is left as it is: the changes wait in "<file>.pending" beside
-// it, a PO file too, and join the file once it can be read and replaced again.
+// it (or, when that cannot be read either, the next free "<file>.N.pending"), a PO file too, and
+// join the file once it can be read and replaced again.
 #pragma once
 
 #include "KivSiblings.h"

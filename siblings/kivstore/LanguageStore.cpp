@@ -18,6 +18,15 @@ using namespace kiv::siblings;
 namespace {
 
 constexpr char kSideFileSuffix[] = ".pending";
+// When a side file cannot be read either, the changes go to the next free one of
+// "<file>.2.pending" ... so that nothing a host asked for is dropped and nobody's work is
+// overwritten.
+constexpr int kSideFileLimit = 100;
+
+std::string SideFilePath(const std::string& path, int number)
+{
+    return number == 1 ? path + kSideFileSuffix : path + "." + std::to_string(number) + kSideFileSuffix;
+}
 constexpr std::size_t kHeaderReadLimit = 64 * 1024;
 
 // The four echoed fields of a record as one string; U+0004 is in no stored text.
@@ -77,8 +86,9 @@ struct LanguageStore::Language
     PoCatalog catalog;
     // Changes since loading, kept so that they can be made again on a copy another program wrote meanwhile.
     std::vector<PoChange> changes;
-    bool sideFileMerged = false;
-    std::string mergedSideFile;  // its bytes, so that it is removed only if nobody added to it since
+    // Side files joined at loading, with their bytes, so that each is removed only if nobody
+    // added to it since.
+    std::vector<std::pair<std::string, std::string>> mergedSideFiles;
     std::vector<std::unique_ptr<RecordTable>> tables;  // every table handed out stays valid until unloading
     bool tableCurrent = false;
     // What a caller that keeps one unit of each field of the records hands back; made on demand.
@@ -208,7 +218,7 @@ int LanguageStore::Update(const char* id, const std::string& context, const std:
 void LanguageStore::Flush()
 {
     for (auto& language : m_languages)
-        if (language->loaded && (!language->changes.empty() || language->sideFileMerged))
+        if (language->loaded && (!language->changes.empty() || !language->mergedSideFiles.empty()))
             FlushLanguage(*language);
 }
 
@@ -235,18 +245,22 @@ void LanguageStore::Load(Language& language)
     language.loaded = true;
     std::string bytes;
     language.readable = ReadWholeFile(language.path, bytes) && language.catalog.Load(std::move(bytes));
-    std::string side;
-    PoCatalog kept;
-    if (!language.readable || !ReadWholeFile(language.path + kSideFileSuffix, side) || !kept.Load(side))
+    if (!language.readable)
         return;
     // Changes set aside while the file could not be used join it now that it can.
-    for (PoChange& change : kept.KeptChanges())
+    for (int number = 1; number <= kSideFileLimit; ++number)
     {
-        language.catalog.Apply(change);
-        language.changes.push_back(std::move(change));
+        std::string sidePath = SideFilePath(language.path, number), side;
+        PoCatalog kept;
+        if (!ReadWholeFile(sidePath, side) || !kept.Load(side))
+            continue;
+        for (PoChange& change : kept.KeptChanges())
+        {
+            language.catalog.Apply(change);
+            language.changes.push_back(std::move(change));
+        }
+        language.mergedSideFiles.emplace_back(std::move(sidePath), std::move(side));
     }
-    language.sideFileMerged = true;
-    language.mergedSideFile = std::move(side);
 }
 
 std::vector<std::string> LanguageStore::NamesOf(Language& language)
@@ -288,27 +302,35 @@ void LanguageStore::FlushLanguage(Language& language)
         SetAside(language);
         return;
     }
-    std::string sidePath = language.path + kSideFileSuffix, side;
-    if (language.sideFileMerged && ReadWholeFile(sidePath, side) && side == language.mergedSideFile)
-        ::DeleteFileA(sidePath.c_str());
-    language.sideFileMerged = false;
+    for (const auto& [sidePath, merged] : language.mergedSideFiles)
+    {
+        std::string side;
+        if (ReadWholeFile(sidePath, side) && side == merged)
+            ::DeleteFileA(sidePath.c_str());
+    }
+    language.mergedSideFiles.clear();
     language.changes.clear();
 }
 
 bool LanguageStore::SetAside(Language& language)
 {
-    std::string sidePath = language.path + kSideFileSuffix, side;
-    PoCatalog kept;
-    // A side file that cannot be read is somebody's work too, and is not overwritten either.
-    if (ReadWholeFile(sidePath, side) && !kept.Load(side))
-        return false;
-    for (const PoChange& change : language.changes)
-        kept.Keep(change);
-    language.sideFileMerged = false;
-    if (!ReplaceWholeFile(m_folder, sidePath, kept.Save(HeaderInfo(language))))
-        return false;
-    language.changes.clear();
-    return true;
+    language.mergedSideFiles.clear();
+    for (int number = 1; number <= kSideFileLimit; ++number)
+    {
+        std::string sidePath = SideFilePath(language.path, number), side;
+        PoCatalog kept;
+        // A side file that cannot be read is somebody's work too, and is not overwritten.
+        if (ReadWholeFile(sidePath, side) && !kept.Load(side))
+            continue;
+        for (const PoChange& change : language.changes)
+            kept.Keep(change);
+        if (ReplaceWholeFile(m_folder, sidePath, kept.Save(HeaderInfo(language))))
+        {
+            language.changes.clear();
+            return true;
+        }
+    }
+    return false;
 }
 
 // A caller that keeps only the first unit of each field of the records it read hands those

@@ -29,7 +29,8 @@ public:
     int Insert(const char* id, const std::string& context, const std::string& msgid, const std::string& msgstr);
     int Update(const char* id, const std::string& context, const std::string& msgstr);
     // Writes every language that changed. A file that cannot be read or replaced is left alone
-    // and the changes go to its side file, "<id>.po.pending", itself a PO file.
+    // and the changes go to its side file, "<id>.po.pending", itself a PO file; when that one
+    // cannot be read either, to the next free "<id>.po.N.pending".
     void Flush();
 
 private:

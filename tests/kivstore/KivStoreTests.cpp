@@ -561,14 +561,34 @@ TEST_F(KivStore, SetAsideInsertionOfAStringTheRepairedFileHoldsIsDropped)
     EXPECT_FALSE(Exists("de.po.pending"));
 }
 
-TEST_F(KivStore, UnreadableSideFileIsNotOverwrittenEither)
+TEST_F(KivStore, UnreadableSideFileIsNotOverwrittenAndTheChangesGoToTheNextOne)
 {
     WriteFile("de.po", "msgid \"broken");
     WriteFile("de.po.pending", "msgid \"also broken");
     Load();
-    EXPECT_EQ(kStoreSetAside, Insert("OK", L"", "de", "100", "1"));
+    EXPECT_EQ(kStoreSetAside, Insert("OK", L"Gut", "de", "100", "1"));
     Unload();
     EXPECT_EQ("msgid \"broken", ReadFile("de.po"));
+    EXPECT_EQ("msgid \"also broken", ReadFile("de.po.pending"));
+    ASSERT_TRUE(Exists("de.po.2.pending"));
+    EXPECT_NE(std::string::npos, ReadFile("de.po.2.pending").find(Entry("100", "1", "OK", "Gut")));
+
+    // A later run adds to the same side file, not a third one.
+    Load();
+    EXPECT_EQ(kStoreSetAside, Insert("Cancel", L"", "de", "100", "2"));
+    Unload();
+    EXPECT_NE(std::string::npos, ReadFile("de.po.2.pending").find(Entry("100", "2", "Cancel", "")));
+    EXPECT_FALSE(Exists("de.po.3.pending"));
+
+    // Once the language file can be read, the kept changes join it and their side file goes;
+    // the one nobody could read stays for a person to look at.
+    WriteFile("de.po", kHeader);
+    Load();
+    EXPECT_STREQ(L"Gut", Held("de", "100", "1"));
+    Unload();
+    EXPECT_NE(std::string::npos, ReadFile("de.po").find(Entry("100", "1", "OK", "Gut")));
+    EXPECT_NE(std::string::npos, ReadFile("de.po").find(Entry("100", "2", "Cancel", "")));
+    EXPECT_FALSE(Exists("de.po.2.pending"));
     EXPECT_EQ("msgid \"also broken", ReadFile("de.po.pending"));
     Remove("de.po");
     Remove("de.po.pending");
