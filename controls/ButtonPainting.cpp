@@ -24,11 +24,9 @@ void TrackButtonHover(CWnd& button, BOOL& overControl, UINT nFlags, CPoint point
     }
 }
 
-void DrawBlueButtonFace(CDC* pDC, HWND hWnd, const CRect& rect, const kiv::rules::ButtonLook& look, CBrush& hoverBrush,
-                        CBrush& normalBrush, UINT lineFormat)
+void DrawBlueButtonFace(CDC* pDC, HWND hWnd, const CRect& rect, const CString& text, const kiv::rules::ButtonLook& look,
+                        CBrush& hoverBrush, CBrush& normalBrush, UINT lineFormat)
 {
-    CString text;
-    CWnd::FromHandle(hWnd)->GetWindowText(text);
     CBrush& fill = look.hoverBrush ? hoverBrush : normalBrush;
     ::FillRect(pDC->m_hDC, &rect, (HBRUSH)fill.GetSafeHandle());
     pDC->SetTextColor(look.text);

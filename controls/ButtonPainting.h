@@ -21,8 +21,9 @@ inline void RepaintButton(HWND hWnd, BOOL bErase)
 void TrackButtonHover(CWnd& button, BOOL& overControl, UINT nFlags, CPoint point, BOOL eraseInside);
 
 // Fills the face and draws the caption as one block centred both ways; the lines inside it
-// follow `lineFormat` (DT_CENTER or left-aligned).
-void DrawBlueButtonFace(CDC* pDC, HWND hWnd, const CRect& rect, const kiv::rules::ButtonLook& look, CBrush& hoverBrush,
-                        CBrush& normalBrush, UINT lineFormat);
+// follow `lineFormat` (DT_CENTER or left-aligned). The caller reads the caption before it asks
+// for the state, as the buttons always have.
+void DrawBlueButtonFace(CDC* pDC, HWND hWnd, const CRect& rect, const CString& text, const kiv::rules::ButtonLook& look,
+                        CBrush& hoverBrush, CBrush& normalBrush, UINT lineFormat);
 
 }  // namespace kiv::controls

@@ -144,8 +144,10 @@ void CColorButton::OnPaint()
 
 void CColorButton::DrawColorButton(CDC* pDC, CRect rect)
 {
+    CString text;
+    GetWindowText(text);
     rules::ButtonLook look = rules::ColorButtonLook(GetPushButtonState());
-    kiv::controls::DrawBlueButtonFace(pDC, m_hWnd, rect, look, m_brushHover, m_brushNormal, DT_CENTER);
+    kiv::controls::DrawBlueButtonFace(pDC, m_hWnd, rect, text, look, m_brushHover, m_brushNormal, DT_CENTER);
 }
 
 void CColorButton::OnEnable(BOOL /*bEnable*/)

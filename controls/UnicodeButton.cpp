@@ -134,9 +134,14 @@ void CUnicodeButton::OnPaint()
 
 void CUnicodeButton::DrawNonUnicodeButton(CRect rect, CDC* pDC)
 {
-    rules::ButtonLook look = rules::NarrowUnicodeButtonLook(GetPushButtonState(), IsWindowEnabled() != FALSE);
+    CString text;
+    GetWindowText(text);
+    // A disabled button never shows the hover look, so only an enabled one asks for its state.
+    bool enabled = IsWindowEnabled() != FALSE;
+    int state = enabled ? GetPushButtonState() : (int)rules::kButtonDisabled;
+    rules::ButtonLook look = rules::NarrowUnicodeButtonLook(state, enabled);
     // Lines stay left-aligned inside the centred block.
-    kiv::controls::DrawBlueButtonFace(pDC, m_hWnd, rect, look, m_brushHover, m_brushNormal, 0);
+    kiv::controls::DrawBlueButtonFace(pDC, m_hWnd, rect, text, look, m_brushHover, m_brushNormal, 0);
 }
 
 void CUnicodeButton::DrawUnicodeButton(CRect rect, CDC* pDC)

@@ -1,0 +1,84 @@
+#include "UnicodeTabCtrl.h"
+
+#include "Palette.h"
+
+#include <gdiplus.h>
+
+namespace gdip = Gdiplus::DllExports;
+namespace rules = kiv::rules;
+
+IMPLEMENT_DYNAMIC(CUnicodeTabCtrl, CTabCtrl)
+
+BEGIN_MESSAGE_MAP(CUnicodeTabCtrl, CTabCtrl)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+CUnicodeTabCtrl::CUnicodeTabCtrl() : m_pTabTexts(nullptr), m_nTabTexts(0)
+{
+    m_brushNormal.CreateSolidBrush(rules::kPaleBlueGrey);
+    m_brushSelected.CreateSolidBrush(rules::kSteelBlue);
+}
+
+CUnicodeTabCtrl::~CUnicodeTabCtrl()
+{
+    m_brushNormal.DeleteObject();
+    m_brushSelected.DeleteObject();
+    delete[] m_pTabTexts;
+}
+
+// A negative count is taken as none: the control keeps an empty set of captions rather than
+// failing. The previous captions are released; the new copy stays valid for the control's life.
+void CUnicodeTabCtrl::SetUnicode(CStringW* pTexts, int nCount)
+{
+    int count = nCount > 0 ? nCount : 0;
+    auto* texts = new CStringW[count];
+    for (int i = 0; i < count; ++i)
+        texts[i] = pTexts[i];
+    delete[] m_pTabTexts;
+    m_pTabTexts = texts;
+    m_nTabTexts = count;
+    if (m_hWnd != nullptr)
+        ModifyStyle(0, TCS_OWNERDRAWFIXED, 0);
+}
+
+void CUnicodeTabCtrl::OnPaint()
+{
+    CWnd::OnPaint();  // the system paints the control and asks DrawItem for each tab
+}
+
+void CUnicodeTabCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    HDC hDC = lpDrawItemStruct->hDC;
+    const RECT& rc = lpDrawItemStruct->rcItem;
+    Gdiplus::GpGraphics* graphics = nullptr;
+    Gdiplus::GpFont* font = nullptr;
+    Gdiplus::GpSolidFill* brush = nullptr;
+    Gdiplus::GpStringFormat* format = nullptr;
+    gdip::GdipCreateFromHDC(hDC, &graphics);
+    LOGFONTA lf = {};
+    ::GetObjectA((HGDIOBJ)::SendMessageA(m_hWnd, WM_GETFONT, 0, 0), sizeof(lf), &lf);
+    gdip::GdipCreateFontFromLogfontA(hDC, &lf, &font);
+    // kept: the colour numbers go to GDI+ as they are, so the caption brush has no alpha and
+    // the visible tab is its fill; hosts' screens have always looked so
+    bool selected = (lpDrawItemStruct->itemState & ODS_SELECTED) != 0;
+    rules::Colour colour = selected ? rules::kWhite : rules::kDarkBlue;
+    gdip::GdipCreateSolidFill((Gdiplus::ARGB)colour, &brush);
+    ::SetBkColor(hDC, colour);
+    ::FillRect(hDC, &rc, (HBRUSH)(selected ? m_brushSelected : m_brushNormal).GetSafeHandle());
+    gdip::GdipCreateStringFormat(0, 0, &format);
+    gdip::GdipSetStringFormatLineAlign(format, Gdiplus::StringAlignmentCenter);
+    gdip::GdipSetStringFormatAlign(format, Gdiplus::StringAlignmentCenter);
+    // A tab past the captions the host gave gets its fill only: nothing is read past them.
+    UINT index = lpDrawItemStruct->itemID;
+    if (m_pTabTexts != nullptr && index < (UINT)m_nTabTexts)
+    {
+        const CStringW& text = m_pTabTexts[index];
+        Gdiplus::RectF layout((Gdiplus::REAL)rc.left, (Gdiplus::REAL)rc.top, (Gdiplus::REAL)(rc.right - rc.left),
+                              (Gdiplus::REAL)(rc.bottom - rc.top));
+        gdip::GdipDrawString(graphics, text, text.GetLength(), font, &layout, format, brush);
+    }
+    gdip::GdipDeleteBrush(brush);
+    gdip::GdipDeleteStringFormat(format);
+    gdip::GdipDeleteFont(font);
+    gdip::GdipDeleteGraphics(graphics);
+}
