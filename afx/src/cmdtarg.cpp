@@ -175,10 +175,10 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
     BOOL bResult = pTarget->OnCmdMsg(m_nID, (int)CN_UPDATE_COMMAND_UI, this, nullptr);
     if (bDisableIfNoHndler && !m_bEnableChanged)
     {
-        // No update handler enabled or disabled it: only a command handler keeps it enabled.
+        // No update handler enabled or disabled it: it is enabled exactly when a command
+        // handler exists, so a button disabled before comes back once its handler does.
         AFX_CMDHANDLERINFO info = {nullptr, nullptr};
-        if (!pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info))
-            Enable(FALSE);
+        Enable(pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info));
     }
     return bResult;
 }

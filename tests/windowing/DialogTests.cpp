@@ -251,6 +251,18 @@ TEST(CWnd, UpdateDialogControlsDisablesAPushButtonWithoutHandlersOnly)
     dlg.DestroyWindow();
 }
 
+TEST(CWnd, UpdateDialogControlsEnablesADisabledPushButtonThatHasACommandHandler)
+{
+    CSampleDialog dlg;
+    ASSERT_TRUE(dlg.Create(IDD_SAMPLE));
+    ::EnableWindow(::GetDlgItem(dlg.m_hWnd, IDOK), FALSE);
+    ::EnableWindow(::GetDlgItem(dlg.m_hWnd, IDC_NOHANDLER), FALSE);
+    dlg.UpdateDialogControls(&dlg, TRUE);
+    EXPECT_TRUE(::IsWindowEnabled(::GetDlgItem(dlg.m_hWnd, IDOK)));
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(dlg.m_hWnd, IDC_NOHANDLER)));
+    dlg.DestroyWindow();
+}
+
 TEST(CWnd, UpdateDialogControlsFollowsTheUpdateHandler)
 {
     CSampleDialog dlg;
