@@ -5,7 +5,8 @@
 include(CMakePackageConfigHelpers)
 
 set_target_properties(afx_winmain PROPERTIES EXPORT_NAME afxmain)
-install(TARGETS afx KivMFC afx_winmain EXPORT KivMFCTargets
+# kivflex64.dll belongs to the export set: the library's dialog classes derive from its class.
+install(TARGETS afx KivMFC afx_winmain kivflex EXPORT KivMFCTargets
   FILE_SET HEADERS DESTINATION include/KivMFC
   OBJECTS DESTINATION lib/objects
   RUNTIME DESTINATION bin
@@ -14,8 +15,8 @@ install(TARGETS afx KivMFC afx_winmain EXPORT KivMFCTargets
 install(DIRECTORY afx/include/ DESTINATION include)
 install(EXPORT KivMFCTargets NAMESPACE KivMFC:: DESTINATION lib/cmake/KivMFC)
 
-# The sibling libraries the library loads or derives from at run time.
-foreach(sibling kivutil kivstore kivflex)
+# The sibling libraries the library loads at run time.
+foreach(sibling kivutil kivstore)
   if(TARGET ${sibling})
     install(TARGETS ${sibling} RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
   endif()

@@ -1,4 +1,5 @@
-# The installed KivMFC package: targets KivMFC::KivMFC, KivMFC::afx and KivMFC::afxmain, the
+# The installed KivMFC package: targets KivMFC::KivMFC, KivMFC::afx, KivMFC::afxmain and
+# KivMFC::kivflex (the base of the library's dialog classes), the
 # toolchain file in KivMFC_TOOLCHAIN_FILE, and kivmfc_deploy(<target>).
 include(${CMAKE_CURRENT_LIST_DIR}/KivMFCTargets.cmake)
 
@@ -7,7 +8,7 @@ set(KivMFC_BIN_DIR "${_kivmfc_prefix}/bin")
 set(KivMFC_TOOLCHAIN_FILE "${_kivmfc_prefix}/share/KivMFC/mingw-w64-x86_64.cmake")
 
 # The package is built in one configuration; a host built in any other uses that one.
-foreach(_kivmfc_target KivMFC::afx KivMFC::KivMFC KivMFC::afxmain)
+foreach(_kivmfc_target KivMFC::afx KivMFC::KivMFC KivMFC::afxmain KivMFC::kivflex)
   get_target_property(_kivmfc_configs ${_kivmfc_target} IMPORTED_CONFIGURATIONS)
   list(GET _kivmfc_configs 0 _kivmfc_built)
   foreach(_kivmfc_config DEBUG RELEASE RELWITHDEBINFO MINSIZEREL)

@@ -11,7 +11,7 @@ kiv_install_package(${install})
 run(${CMAKE_COMMAND} -S ${EXAMPLE} -B ${WORK}/${name} -G Ninja -DCMAKE_BUILD_TYPE=Release
     -DCMAKE_TOOLCHAIN_FILE=${install}/share/KivMFC/mingw-w64-x86_64.cmake -DCMAKE_PREFIX_PATH=${install})
 run(${CMAKE_COMMAND} --build ${WORK}/${name})
-foreach(needed ${name}.exe kiv.ini lang/de.po KivMFC64.dll KivAfx64.dll kivutil64.dll kivstore64.dll)
+foreach(needed ${name}.exe kiv.ini lang/de.po KivMFC64.dll KivAfx64.dll kivflex64.dll kivutil64.dll kivstore64.dll)
   if(NOT EXISTS ${WORK}/${name}/${needed})
     message(FATAL_ERROR "the example's build folder lacks ${needed}")
   endif()

@@ -57,7 +57,8 @@ TEST(LibraryEntry, DetachRemovesOnlyTheLibrarysOwnEntries)
     ASSERT_NE(nullptr, h);
     auto init = reinterpret_cast<void (*)()>(::GetProcAddress(h, "InitKivMFCDLL"));
     init();
-    EXPECT_EQ(chainBefore + 2, ChainLength());
+    // Its own two entries (the sibling it derives its dialogs from adds one of its own).
+    EXPECT_EQ(2, LibrariesOf(h));
     EXPECT_TRUE(::FreeLibrary(h));
     EXPECT_EQ(nullptr, ::GetModuleHandleA("KivMFC64.dll"));
     EXPECT_EQ(chainBefore, ChainLength());

@@ -1,8 +1,9 @@
 cmake_minimum_required(VERSION 3.25)
 # The installed headers are the public ones only: the runtime's MFC-style headers at the root
 # of include/, and under include/KivMFC the library's headers that KivMFC.h reaches. No
-# header that calls itself internal, no rule and no sibling header is installed, and every
-# header an installed header includes is installed too.
+# header that calls itself internal, no rule and no sibling header is installed (but the
+# dialog base class that the library's dialogs derive from), and every header an installed
+# header includes is installed too.
 file(GLOB root_entries RELATIVE ${PREFIX}/include ${PREFIX}/include/*)
 foreach(entry ${root_entries})
   if(NOT entry STREQUAL "KivMFC" AND NOT entry MATCHES "^afx[a-z_]*\\.h$")
@@ -11,6 +12,7 @@ foreach(entry ${root_entries})
 endforeach()
 file(GLOB_RECURSE installed RELATIVE ${PREFIX}/include ${PREFIX}/include/*)
 file(GLOB_RECURSE private_headers RELATIVE ${SOURCE} ${SOURCE}/rules/*.h ${SOURCE}/siblings/*.h)
+list(REMOVE_ITEM private_headers siblings/kivflex/CNSFlexDialog.h)
 foreach(header ${private_headers})
   get_filename_component(name ${header} NAME)
   if(name IN_LIST installed OR "KivMFC/${name}" IN_LIST installed)
