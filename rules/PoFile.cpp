@@ -510,10 +510,17 @@ bool ParsePo(std::string bytes, PoFile& file, PoError* error)
     }
     if (text.size() != bytes.size())
         bytes.erase(0, bytes.size() - text.size());
+    // Lines ended by a carriage return alone, which msgfmt reads too: read as line feeds and
+    // written back with carriage returns.
+    bool carriageReturnsOnly = text.find('\n') == std::string_view::npos && text.find('\r') != std::string_view::npos;
+    if (carriageReturnsOnly)
+        std::replace(bytes.begin(), bytes.end(), '\r', '\n');
     file.m_text = std::make_unique<std::string>(std::move(bytes));
     text = *file.m_text;
     std::size_t firstBreak = text.find('\n');
-    if (firstBreak != std::string_view::npos && firstBreak > 0 && text[firstBreak - 1] == '\r')
+    if (carriageReturnsOnly)
+        file.m_newline = "\r";
+    else if (firstBreak != std::string_view::npos && firstBreak > 0 && text[firstBreak - 1] == '\r')
         file.m_newline = "\r\n";
     file.entries.reserve(text.size() / 64);  // an entry of the store takes about that much
     PoReader reader(text, &file);
@@ -541,7 +548,9 @@ bool ParsePoHeader(std::string_view bytes, std::string& header)
 
 std::string WritePo(const PoFile& file)
 {
-    const std::string& nl = file.Newline();
+    // A file of carriage returns alone is kept with line feeds and turned back at the end.
+    const bool carriageReturnsOnly = file.Newline() == "\r";
+    const std::string nl = carriageReturnsOnly ? std::string("\n") : file.Newline();
     std::string out;
     out.reserve(file.Text().size() + 4096);
     bool afterWritten = false;  // the last entry was written from its fields
@@ -567,6 +576,8 @@ std::string WritePo(const PoFile& file)
     if (!trailer.empty() && !out.empty() && out.back() != '\n')
         out += nl;
     out += trailer;
+    if (carriageReturnsOnly)
+        std::replace(out.begin(), out.end(), '\n', '\r');
     return out;
 }
 

@@ -63,6 +63,7 @@ public:
     PoFile& operator=(const PoFile&) = delete;
 
     // Attributes
+    // The bytes read; a file with carriage returns alone for line ends reads with line feeds.
     std::string_view Text() const noexcept { return m_text ? std::string_view(*m_text) : std::string_view(); }
     const std::string& Newline() const noexcept { return m_newline; }  // the file's own line end
     std::string_view Trailer() const noexcept { return Text().substr(trailerBegin); }

@@ -500,6 +500,19 @@ TEST_F(KivStore, FileWithCrLfKeepsItsLineEnds)
     EXPECT_EQ(before + "\r\nmsgctxt \"1\\n3\"\r\nmsgid \"c\"\r\nmsgstr \"d\"\r\n", ReadFile("de.po"));
 }
 
+// Carriage returns alone end the lines of some editors' files, and msgfmt reads them: so does
+// the store, and what it adds ends its lines the same way.
+TEST_F(KivStore, FileWithCarriageReturnsAloneIsReadAndKeepsItsLineEnds)
+{
+    const std::string before = Replaced(kHeader, "\n", "\r") + "\rmsgctxt \"1\\n2\"\rmsgid \"a\"\rmsgstr \"b\"\r";
+    WriteFile("de.po", before);
+    Load();
+    EXPECT_STREQ(L"b", Held("de", "1", "2"));
+    EXPECT_EQ(kStoreOk, Insert("c", L"d", "de", "1", "3"));
+    Unload();
+    EXPECT_EQ(before + "\rmsgctxt \"1\\n3\"\rmsgid \"c\"\rmsgstr \"d\"\r", ReadFile("de.po"));
+}
+
 // A file the store cannot read is a translator's work in progress: it is never overwritten, the
 // language answers nothing, and what the program adds waits in a side file beside it.
 TEST_F(KivStore, UnreadableFileIsNeverOverwritten)

@@ -133,6 +133,25 @@ TEST(ParsePo, TakesTheLineEndOfTheFile)
     EXPECT_EQ("\n", Parsed("msgid \"a\"\nmsgstr \"b\"\r\n").Newline());
 }
 
+TEST(ParsePo, CarriageReturnsAloneEndLinesAsMsgfmtReadsThem)
+{
+    const std::string text =
+        "# comment\rmsgctxt \"1\\n2\"\rmsgid \"a\"\rmsgstr \"b\"\r\r#, fuzzy\rmsgid \"c\"\rmsgstr \"d\"\r";
+    PoFile file = Parsed(text);
+    ASSERT_EQ(2u, file.entries.size());
+    EXPECT_EQ("\r", file.Newline());
+    EXPECT_EQ("1\n2", file.entries[0].context);
+    EXPECT_EQ(std::vector<std::string_view>{"# comment"}, file.entries[0].comments);
+    EXPECT_TRUE(file.entries[1].IsFuzzy());
+    EXPECT_EQ(text, WritePo(file));
+    // A changed entry is written with the file's own line ends.
+    file.entries[0].msgstr = file.Keep("e");
+    file.entries[0].MarkChanged();
+    std::string written = WritePo(file);
+    EXPECT_EQ(std::string::npos, written.find('\n'));
+    EXPECT_NE(std::string::npos, written.find("msgstr \"e\"\r"));
+}
+
 TEST(ParsePo, CommentsAfterTheLastEntryAreTheTrailer)
 {
     PoFile file = Parsed("msgid \"a\"\nmsgstr \"b\"\n\n#~ msgid \"old\"\n#~ msgstr \"alt\"\n");
