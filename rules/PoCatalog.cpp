@@ -138,6 +138,26 @@ bool IsStorableText(std::string_view text) noexcept
     return IsValidUtf8(text) && text.find_first_of(std::string_view("\0\x04", 2)) == std::string_view::npos;
 }
 
+std::string_view HeaderField(std::string_view header, std::string_view name)
+{
+    return FindHeaderField(header, name).value;
+}
+
+std::string_view HeaderCharset(std::string_view header)
+{
+    return Charset(header);
+}
+
+bool IsReadableCharsetName(std::string_view charset) noexcept
+{
+    return IsReadableCharset(charset);
+}
+
+bool HasOtherOuterLineFeeds(const PoEntry& entry)
+{
+    return HasRefusedLineFeeds(entry);
+}
+
 bool MakeContext(std::string_view section, std::string_view key, std::string& context)
 {
     if (section.find('\n') != std::string_view::npos || !IsStorableText(section) || !IsStorableText(key))

@@ -51,6 +51,14 @@ bool MakeContext(std::string_view section, std::string_view key, std::string& co
 std::vector<std::string> HeaderLanguageNames(std::string_view header);
 // True for text a PO file can hold: UTF-8 without NUL and without the context separator.
 bool IsStorableText(std::string_view text) noexcept;
+// The value of a header field (names compared without case), empty when absent.
+std::string_view HeaderField(std::string_view header, std::string_view name);
+// The charset the header's Content-Type names, empty when none.
+std::string_view HeaderCharset(std::string_view header);
+// Whether the store reads a file of that charset: UTF-8, ASCII, or none named yet.
+bool IsReadableCharsetName(std::string_view charset) noexcept;
+// msgfmt -c refuses a translation whose leading or trailing line feed differs from its text's.
+bool HasOtherOuterLineFeeds(const PoEntry& entry);
 
 class PoCatalog
 {
