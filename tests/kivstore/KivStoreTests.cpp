@@ -489,6 +489,39 @@ TEST_F(KivStore, FuzzyTranslationIsNotHandedOutAndTheEntryIsKept)
               ReadFile("de.po"));
 }
 
+// A file as msgmerge and PO editors leave it: plural forms, a fuzzy guess with its previous
+// text, obsolete entries, comments of every kind. It is used as gettext uses it and kept byte
+// for byte, with the new text added after its last entry, before the obsolete ones.
+TEST_F(KivStore, FileOfPoToolsIsUsedAsGettextDoesAndKeptByteForByte)
+{
+    const std::string file =
+        "# German translation.\n"
+        "msgid \"\"\nmsgstr \"\"\n\"Content-Type: text/plain; charset=UTF-8\\n\"\n\"Language: de\\n\"\n"
+        "\"Plural-Forms: nplurals=2; plural=(n != 1);\\n\"\n"
+        "\n#. the first button\n#: dialog.rc:12\nmsgctxt \"100\\n1\"\nmsgid \"OK\"\nmsgstr \"OK\"\n"
+        "\n#, fuzzy\n#| msgid \"Open\"\nmsgctxt \"100\\n2\"\nmsgid \"Open...\"\nmsgstr \"\xC3\x96"
+        "ffnen\"\n"
+        "\nmsgctxt \"100\\n3\"\nmsgid \"%d file\"\nmsgid_plural \"%d files\"\n"
+        "msgstr[0] \"%d Datei\"\nmsgstr[1] \"%d Dateien\"\n"
+        "\n#~ msgctxt \"100\\n9\"\n#~ msgid \"Gone\"\n#~ msgstr \"Weg\"\n";
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_STREQ(L"OK", Held("de", "100", "1"));
+    EXPECT_STREQ(L"", Held("de", "100", "2"));  // fuzzy: not handed out
+    CStringW** records = Strings("de");
+    ASSERT_NE(nullptr, records[0]);
+    ASSERT_NE(nullptr, records[1]);
+    EXPECT_EQ(nullptr, records[2]);  // neither the plural entry nor the obsolete one is a record
+    EXPECT_EQ(kStoreOk, Insert("Close", L"Schlie\u00DFen", "de", "100", "4"));
+    Unload();
+    std::string after = ReadFile("de.po");
+    ASSERT_EQ(0u, after.find(file));
+    EXPECT_EQ(file + Entry("100", "4", "Close",
+                           "Schlie\xC3\x9F"
+                           "en"),
+              after);
+}
+
 TEST_F(KivStore, FileWithCrLfKeepsItsLineEnds)
 {
     const std::string before =
