@@ -74,6 +74,7 @@ private:
                           const CString& section);
     void ClearTranslationCache();
     void TranslateDialogRecursive(CWnd* parent, CString section);
+    void TranslateChildren(HWND parent, const CString& section);
     void LoadTranslations();
     void StoreTranslations();
 

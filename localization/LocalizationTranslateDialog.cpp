@@ -57,19 +57,25 @@ int LocalizationManager::TranslateDialog(CWnd* dialog, CString section)
 void LocalizationManager::TranslateDialogRecursive(CWnd* parent, CString section)
 {
     // A null or window-less parent has no children to walk.
-    if (parent == nullptr || parent->m_hWnd == nullptr)
-        return;
-    // Handles, not objects, carry the walk: a control that destroys itself (and its object)
-    // while it is retitled ends the walk of its siblings instead of leaving a stale pointer.
-    for (HWND hWnd = ::GetTopWindow(parent->m_hWnd); hWnd != nullptr; hWnd = ::GetWindow(hWnd, GW_HWNDNEXT))
+    if (parent != nullptr && parent->m_hWnd != nullptr)
+        TranslateChildren(parent->m_hWnd, section);
+}
+
+// Handles, not objects, carry the walk: no temporary object per control, and a control that
+// destroys itself (and its object) while it is retitled ends the walk of its siblings instead
+// of leaving a stale pointer.
+void LocalizationManager::TranslateChildren(HWND parent, const CString& section)
+{
+    for (HWND hWnd = ::GetTopWindow(parent); hWnd != nullptr; hWnd = ::GetWindow(hWnd, GW_HWNDNEXT))
     {
         int id = ::GetDlgCtrlID(hWnd);
-        if (IsCaptionClass(hWnd) && id != -1)
+        if (id != -1 && IsCaptionClass(hWnd))
         {
             CString key = KeyText(id);
-            if (HasTranslation(key, section))
+            TranslationEntry* entry = FindTrimmedEntry(key, section);
+            if (entry != nullptr && !entry->translatedText.IsEmpty())
             {
-                SendCaption(hWnd, LookupTranslation(key, section));
+                SendCaption(hWnd, entry->translatedText);
                 ::SendMessageW(hWnd, WM_UNICODE, 0, (LPARAM)section.GetString());
             }
             else
@@ -80,7 +86,7 @@ void LocalizationManager::TranslateDialogRecursive(CWnd* parent, CString section
                 CacheTranslation(text, CStringW(text), key, section);
             }
         }
-        TranslateDialogRecursive(CWnd::FromHandle(hWnd), section);
+        TranslateChildren(hWnd, section);
     }
 }
 
