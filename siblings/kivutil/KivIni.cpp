@@ -14,6 +14,10 @@ CString KivIniPath()
 
 CString KivReadIniString(const char* section, const char* key, const char* defaultText)
 {
+    // A missing section or key names one setting no more: the profile call would list the
+    // file's sections or keys instead.
+    if (section == nullptr || key == nullptr)
+        return CString(defaultText ? defaultText : "");
     CString path = KivIniPath();
     CString value;
     // The profile call truncates silently; grow until the value fits.

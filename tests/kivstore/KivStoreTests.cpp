@@ -909,3 +909,51 @@ TEST_F(KivStore, TextInsertedInThisRunIsARecordWhoseEchoIsNotWritten)
     Unload();
     EXPECT_EQ(std::string(kHeader) + Entry("100", "9", "Print", "") + Entry("5", "5", "Q", ""), ReadFile("de.po"));
 }
+
+// Hostile input: what a store folder, a settings file and texts may be, and nothing breaks.
+
+TEST_F(KivStore, StoreFolderThatIsAFileHoldsNoLanguage)
+{
+    WriteFile("not-a-folder", kGerman);
+    WriteSettings("[Store]\r\nDirectory=" + PathOf("not-a-folder") + "\r\n");
+    Load();
+    EXPECT_STREQ("", Id("de"));
+    EXPECT_EQ(nullptr, Strings("de"));
+    EXPECT_EQ(kStoreUnknownLanguage, Insert("OK", L"", "de", "1", "1"));
+    Unload();
+    EXPECT_EQ(kGerman, ReadFile("not-a-folder"));
+}
+
+TEST_F(KivStore, SectionAndKeyOf64KilobytesRoundTrip)
+{
+    WriteFile("de.po", kHeader);
+    std::string section(65536, 's');
+    std::string key(65536, 'k');
+    Load();
+    EXPECT_EQ(kStoreOk, Insert("Text", L"Text", "de", section.c_str(), key.c_str()));
+    Unload();
+    Load();
+    EXPECT_STREQ(L"Text", Held("de", section.c_str(), key.c_str()));
+    CStringW** records = Strings("de");
+    ASSERT_NE(nullptr, records[0]);
+    EXPECT_EQ(65536, records[0][3].GetLength());
+    EXPECT_EQ(65536, records[0][2].GetLength());
+}
+
+TEST_F(KivStore, FileOf50MegabytesWithALineOf1MegabyteIsReadAndKept)
+{
+    std::string file = kHeader;
+    std::string line(1 << 20, 'x');
+    file += Entry("L", "1", "long", line.c_str());
+    std::string filler(400, 'y');
+    for (int i = 0; file.size() < (50u << 20); ++i)
+        file += Entry("S", std::to_string(i).c_str(), "t", filler.c_str());
+    WriteFile("de.po", file);
+    Load();
+    EXPECT_EQ(1 << 20, Held("de", "L", "1").GetLength());
+    EXPECT_EQ(kStoreOk, Insert("new", L"neu", "de", "N", "1"));
+    Unload();
+    std::string after = ReadFile("de.po");
+    EXPECT_EQ(0, after.compare(0, file.size(), file));
+    EXPECT_EQ(file + Entry("N", "1", "new", "neu"), after);
+}

@@ -77,6 +77,22 @@ TEST_F(KivGetIniString, AChangeOfTheFileShowsAtTheNextCall)
     EXPECT_STREQ("", m_read("Environment", "LanguageSetting", ""));
 }
 
+TEST_F(KivGetIniString, SettingsFileThatIsAFolderGivesTheDefault)
+{
+    ::DeleteFileA(m_path);
+    ASSERT_TRUE(::CreateDirectoryA(m_path, nullptr));
+    EXPECT_STREQ("dflt", m_read("Environment", "LanguageSetting", "dflt"));
+    EXPECT_STREQ("", m_read("Environment", "LanguageSetting", ""));
+    ::RemoveDirectoryA(m_path);
+}
+
+TEST_F(KivGetIniString, NullSectionOrKeyGivesTheDefaultNotAList)
+{
+    Write("[Environment]\r\nLanguageSetting=German\r\n");
+    EXPECT_STREQ("", m_read(nullptr, "LanguageSetting", nullptr));
+    EXPECT_STREQ("dflt", m_read("Environment", nullptr, "dflt"));
+}
+
 TEST_F(KivGetIniString, LongValuesAreNotCut)
 {
     CString value('x', 3000);
