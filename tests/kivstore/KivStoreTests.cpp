@@ -957,3 +957,54 @@ TEST_F(KivStore, FileOf50MegabytesWithALineOf1MegabyteIsReadAndKept)
     EXPECT_EQ(0, after.compare(0, file.size(), file));
     EXPECT_EQ(file + Entry("N", "1", "new", "neu"), after);
 }
+
+namespace {
+
+// Starts the saving helper, lets it run for a moment and kills it.
+void KillSaverAfter(DWORD milliseconds)
+{
+    std::string command = ProgramFolder() + "kivstore_kill_helper.exe";
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process = {};
+    ASSERT_TRUE(
+        ::CreateProcessA(nullptr, &command[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process));
+    ::Sleep(milliseconds);
+    ::TerminateProcess(process.hProcess, 9);
+    ::WaitForSingleObject(process.hProcess, 30000);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+}
+
+int RecordCount(CStringW** records)
+{
+    int count = 0;
+    while (records != nullptr && records[count] != nullptr)
+        ++count;
+    return count;
+}
+
+}  // namespace
+
+// A process killed at any instant of its saves leaves the old file or a new one, whole: it
+// reads, holds what it held, and never fewer texts than before.
+TEST_F(KivStore, KilledWhileSavingLeavesAWholeFileEveryTime)
+{
+    std::string file = kHeader;
+    for (int i = 0; i < 2000; ++i)
+        file += Entry("S", std::to_string(i).c_str(), "Text of the program", "Text des Programms");
+    WriteFile("de.po", file);
+    std::srand(20261124);
+    int before = 2000;
+    for (int round = 0; round < 25; ++round)
+    {
+        KillSaverAfter(300 + (DWORD)(std::rand() % 400));
+        Load();
+        int now = RecordCount(Strings("de"));
+        EXPECT_GE(now, before) << "round " << round;
+        EXPECT_STREQ(L"Text des Programms", Held("de", "S", "1999")) << "round " << round;
+        Unload();
+        before = now;
+    }
+    EXPECT_GT(before, 2000);  // some saves got through
+}
