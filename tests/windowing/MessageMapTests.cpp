@@ -356,7 +356,7 @@ TEST(CCmdTarget, UpdateHandlerThatContinuesRoutingDoesNotCount)
     EXPECT_FALSE(target.OnCmdMsg(ID_TEST_PASSED_ON, (int)CN_UPDATE_COMMAND_UI, &state, nullptr));
 }
 
-TEST(CCmdUI, DoUpdateDisablesAnItemWithoutAnyHandler)
+TEST(CCmdUI, DoUpdateDisablesAnItemWithoutAnyHandlerAndEnablesOneWithACommandHandler)
 {
     CCommandTarget target;
     CRecordingCmdUI state;
@@ -364,9 +364,9 @@ TEST(CCmdUI, DoUpdateDisablesAnItemWithoutAnyHandler)
     EXPECT_FALSE(state.DoUpdate(&target, TRUE));
     EXPECT_EQ(0, state.m_nEnabled);
     CRecordingCmdUI kept;
-    kept.m_nID = ID_TEST_RANGE_FIRST;  // a command handler keeps it enabled
+    kept.m_nID = ID_TEST_RANGE_FIRST;  // a command handler enables it
     kept.DoUpdate(&target, TRUE);
-    EXPECT_EQ(-1, kept.m_nEnabled);
+    EXPECT_EQ(1, kept.m_nEnabled);
     CRecordingCmdUI untouched;
     untouched.m_nID = ID_TEST_RANGE_LAST + 5;
     untouched.DoUpdate(&target, FALSE);
