@@ -23,4 +23,6 @@
 #include "strFilename.h"
 #include "strFilenameW.h"
 #include "mfcCStringMap.h"
+#include "mfcCLineTracker.h"
+#include "mfcCLineTrackers.h"
 #include "winGetPlatformID.h"

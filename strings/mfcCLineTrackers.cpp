@@ -1,0 +1,78 @@
+#include "mfcCLineTrackers.h"
+
+#include "LineTrackerOwnership.h"
+
+namespace {
+
+void DeleteLine(mfcCLineTracker* pTracker)
+{
+    if (pTracker != nullptr && !kiv::strings::DeleteAfterItsDrag(pTracker))
+        delete pTracker;
+}
+
+}  // namespace
+
+mfcCLineTrackers::mfcCLineTrackers() : CObList(10) {}
+
+mfcCLineTrackers::~mfcCLineTrackers()
+{
+    RemoveAll();
+}
+
+POSITION mfcCLineTrackers::Add(mfcCLineTracker* pTracker)
+{
+    return AddTail(pTracker);
+}
+
+void mfcCLineTrackers::Draw(CDC* pDC) const
+{
+    for (POSITION pos = GetHeadPosition(); pos != nullptr;)
+        if (auto* line = (const mfcCLineTracker*)GetNext(pos))
+            line->Draw(pDC);
+}
+
+mfcCLineTracker* mfcCLineTrackers::HitTest(CPoint point, CWnd* pWnd) const
+{
+    for (POSITION pos = GetHeadPosition(); pos != nullptr;)
+    {
+        auto* line = (mfcCLineTracker*)GetNext(pos);
+        if (line != nullptr && line->HitTest(point, pWnd))
+            return line;
+    }
+    return nullptr;
+}
+
+int mfcCLineTrackers::SetCursor(CWnd* pWnd, unsigned int nHitTest) const
+{
+    for (POSITION pos = GetHeadPosition(); pos != nullptr;)
+    {
+        auto* line = (const mfcCLineTracker*)GetNext(pos);
+        if (line != nullptr && line->SetCursor(pWnd, nHitTest))
+            return 1;
+    }
+    return 0;
+}
+
+void mfcCLineTrackers::SetColor(COLORREF colour)
+{
+    for (POSITION pos = GetHeadPosition(); pos != nullptr;)
+        if (auto* line = (mfcCLineTracker*)GetNext(pos))
+            line->SetColor(colour);
+}
+
+int mfcCLineTrackers::Remove(mfcCLineTracker* pTracker)
+{
+    POSITION pos = Find(pTracker);
+    if (pos == nullptr)
+        return -1;
+    DeleteLine(pTracker);
+    RemoveAt(pos);
+    return 0;
+}
+
+void mfcCLineTrackers::RemoveAll()
+{
+    for (POSITION pos = GetHeadPosition(); pos != nullptr;)
+        DeleteLine((mfcCLineTracker*)GetNext(pos));
+    CObList::RemoveAll();
+}
