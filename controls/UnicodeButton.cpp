@@ -1,6 +1,7 @@
 #include "UnicodeButton.h"
 
 #include "ButtonPainting.h"
+#include "GdiplusText.h"
 #include "LocalizationKeys.h"
 #include "LocalizationManager.h"
 
@@ -173,19 +174,11 @@ void CUnicodeButton::DrawCaptionAndRestore(CDC* pDC, int saved, int styleLowWord
 {
     HDC hDC = pDC->m_hDC;
     Gdiplus::GpGraphics* graphics = nullptr;
-    Gdiplus::GpFont* font = nullptr;
     Gdiplus::GpSolidFill* brush = nullptr;
-    Gdiplus::GpStringFormat* format = nullptr;
     gdip::GdipCreateFromHDC(hDC, &graphics);
-    LOGFONTA lf = {};
-    ::GetObjectA((HGDIOBJ)::SendMessageA(m_hWnd, WM_GETFONT, 0, 0), sizeof(lf), &lf);
-    gdip::GdipCreateFontFromLogfontA(hDC, &lf, &font);
-    COLORREF colour = pDC->GetTextColor();
-    gdip::GdipCreateSolidFill(0xFF000000u | (GetRValue(colour) << 16) | (GetGValue(colour) << 8) | GetBValue(colour),
-                              &brush);
-    gdip::GdipCreateStringFormat(0, 0, &format);
-    gdip::GdipSetStringFormatLineAlign(format, Gdiplus::StringAlignmentNear);
-    gdip::GdipSetStringFormatHotkeyPrefix(format, Gdiplus::HotkeyPrefixShow);
+    Gdiplus::GpFont* font = kiv::controls::CreateWindowFont(m_hWnd, hDC);
+    gdip::GdipCreateSolidFill(kiv::controls::OpaqueArgb(pDC->GetTextColor()), &brush);
+    Gdiplus::GpStringFormat* format = kiv::controls::CreateCaptionFormat();
 
     Gdiplus::RectF layout((Gdiplus::REAL)text.left, (Gdiplus::REAL)text.top, 0, 0);
     Gdiplus::RectF box;

@@ -1,5 +1,6 @@
 #include "UnicodeMenu.h"
 
+#include "GdiplusText.h"
 #include "LocalizationKeys.h"
 #include "LocalizationManager.h"
 #include "MenuTextHash.h"
@@ -37,15 +38,6 @@ Gdiplus::GpFont* CreateMeasuringFont(Gdiplus::GpFontFamily** ownFamily)
     font = nullptr;
     gdip::GdipCreateFont(SansSerifFamily(), 8.0f, 0, Gdiplus::UnitPoint, &font);
     return font;
-}
-
-Gdiplus::GpStringFormat* CreateCaptionFormat()
-{
-    Gdiplus::GpStringFormat* format = nullptr;
-    gdip::GdipCreateStringFormat(0, 0, &format);
-    gdip::GdipSetStringFormatLineAlign(format, Gdiplus::StringAlignmentNear);
-    gdip::GdipSetStringFormatHotkeyPrefix(format, Gdiplus::HotkeyPrefixShow);
-    return format;
 }
 
 CString KeyOf(CMenu* pMenu, int position, const CString& text)
@@ -88,7 +80,7 @@ void CUnicodeMenu::TranslateMenu(CUnicodeMenu* pMenu, CString section, int isMen
         Gdiplus::GpFontFamily* family = nullptr;
         gdip::GdipCreateFromHWND(hWnd, &graphics);
         Gdiplus::GpFont* font = CreateMeasuringFont(&family);
-        Gdiplus::GpStringFormat* format = CreateCaptionFormat();
+        Gdiplus::GpStringFormat* format = kiv::controls::CreateCaptionFormat();
         Gdiplus::RectF layout(0, 0, 0, 0), box(0, 0, 0, 0);
         gdip::GdipMeasureString(graphics, record->text, record->text.GetLength(), font, &layout, format, &box, nullptr,
                                 nullptr);
@@ -138,9 +130,8 @@ void CUnicodeMenu::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     }
     else
     {
-        COLORREF colour = ::GetSysColor((lpDrawItemStruct->itemState & (ODS_GRAYED | ODS_INACTIVE)) ? COLOR_GRAYTEXT
-                                                                                                    : COLOR_MENUTEXT);
-        textColour = 0xFF000000u | (GetRValue(colour) << 16) | (GetGValue(colour) << 8) | GetBValue(colour);
+        bool grayed = (lpDrawItemStruct->itemState & (ODS_GRAYED | ODS_INACTIVE)) != 0;
+        textColour = kiv::controls::OpaqueArgb(::GetSysColor(grayed ? COLOR_GRAYTEXT : COLOR_MENUTEXT));
     }
 
     HDC hDC = lpDrawItemStruct->hDC;
@@ -150,7 +141,7 @@ void CUnicodeMenu::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     gdip::GdipCreateFromHDC(hDC, &graphics);
     gdip::GdipCreateFontFromLogfontA(hDC, &m_lfMenuFont, &font);
     gdip::GdipCreateSolidFill(textColour, &brush);
-    Gdiplus::GpStringFormat* format = CreateCaptionFormat();
+    Gdiplus::GpStringFormat* format = kiv::controls::CreateCaptionFormat();
     Gdiplus::RectF layout((Gdiplus::REAL)rc.left, (Gdiplus::REAL)rc.top, 0, 0), box(0, 0, 0, 0);
     gdip::GdipMeasureString(graphics, record->text, record->text.GetLength(), font, &layout, format, &box, nullptr,
                             nullptr);

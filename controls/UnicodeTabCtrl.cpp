@@ -1,5 +1,6 @@
 #include "UnicodeTabCtrl.h"
 
+#include "GdiplusText.h"
 #include "Palette.h"
 
 #include <gdiplus.h>
@@ -51,13 +52,10 @@ void CUnicodeTabCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     HDC hDC = lpDrawItemStruct->hDC;
     const RECT& rc = lpDrawItemStruct->rcItem;
     Gdiplus::GpGraphics* graphics = nullptr;
-    Gdiplus::GpFont* font = nullptr;
     Gdiplus::GpSolidFill* brush = nullptr;
     Gdiplus::GpStringFormat* format = nullptr;
     gdip::GdipCreateFromHDC(hDC, &graphics);
-    LOGFONTA lf = {};
-    ::GetObjectA((HGDIOBJ)::SendMessageA(m_hWnd, WM_GETFONT, 0, 0), sizeof(lf), &lf);
-    gdip::GdipCreateFontFromLogfontA(hDC, &lf, &font);
+    Gdiplus::GpFont* font = kiv::controls::CreateWindowFont(m_hWnd, hDC);
     // kept: the colour numbers go to GDI+ as they are, so the caption brush has no alpha and
     // the visible tab is its fill; hosts' screens have always looked so
     bool selected = (lpDrawItemStruct->itemState & ODS_SELECTED) != 0;
