@@ -9,13 +9,11 @@ CNSFlexDialog::CNSFlexDialog() : m_pSubject(nullptr) {}
 
 CNSFlexDialog::CNSFlexDialog(UINT nIDTemplate, CWnd* pParentWnd, void* pSubject)
     : CDialog(nIDTemplate, pParentWnd), m_pSubject(pSubject)
-{
-}
+{}
 
 CNSFlexDialog::CNSFlexDialog(const char* lpszTemplateName, CWnd* pParentWnd, void* pSubject)
     : CDialog(lpszTemplateName, pParentWnd), m_pSubject(pSubject)
-{
-}
+{}
 
 CNSFlexDialog::~CNSFlexDialog() = default;
 
