@@ -1,0 +1,244 @@
+#include "GalleryTour.h"
+
+#include "MainFrame.h"
+#include "resource.h"
+
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <cstdio>
+
+namespace {
+
+enum class Opens
+{
+    Nothing,
+    Menu,
+    Command,
+    NextPage
+};
+enum class Closes
+{
+    Nothing,
+    Menu,
+    Cancel,
+    Sheet,
+    MessageBox
+};
+
+struct TourStep
+{
+    const char* name;
+    Opens opens;
+    UINT command;
+    Closes closes;
+    const char* section;  // the texts' section of the window (or its page)
+};
+
+// The order of the windows, and how each is opened and closed.
+const TourStep kSteps[] = {
+    {"frame", Opens::Nothing, 0, Closes::Nothing, "128"},
+    {"menu", Opens::Menu, 1, Closes::Menu, "128"},
+    {"main", Opens::Command, ID_VIEW_MAIN, Closes::Cancel, "200"},
+    {"settings-display", Opens::Command, ID_VIEW_SETTINGS, Closes::Nothing, "300"},
+    {"settings-files", Opens::NextPage, 1, Closes::Sheet, "310"},
+    {"details", Opens::Command, ID_VIEW_DETAILS, Closes::Cancel, "400"},
+    {"message", Opens::Command, ID_VIEW_MESSAGE, Closes::MessageBox, "STRINGTABLE"},
+};
+constexpr size_t kStepCount = sizeof(kSteps) / sizeof(kSteps[0]);
+
+// Ticks a window is given to paint itself after it appears, and to appear at all.
+constexpr int kSettleTicks = 5;
+constexpr int kAppearTicks = 150;
+
+bool HasClass(HWND hWnd, const char* name)
+{
+    char className[32] = {};
+    ::GetClassNameA(hWnd, className, sizeof(className));
+    return lstrcmpiA(className, name) == 0;
+}
+
+struct Search
+{
+    const char* className;
+    HWND found;
+};
+
+// The first visible top-level window of the class, in z-order: the one on top.
+BOOL CALLBACK FindTopWindow(HWND hWnd, LPARAM lParam)
+{
+    auto* search = (Search*)lParam;
+    if (!::IsWindowVisible(hWnd) || !HasClass(hWnd, search->className))
+        return TRUE;
+    search->found = hWnd;
+    return FALSE;
+}
+
+HWND TopWindowOfClass(const char* className)
+{
+    Search search{className, nullptr};
+    ::EnumThreadWindows(::GetCurrentThreadId(), &FindTopWindow, (LPARAM)&search);
+    return search.found;
+}
+
+}  // namespace
+
+CGalleryTour::CGalleryTour(CMainFrame* pFrame, const CString& folder) : m_pFrame(pFrame), m_folder(folder)
+{
+    // The pointer rests off every window, so that no button shows its hover colour.
+    ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
+    ::DeleteFileA(FilePath("go"));
+    ::DeleteFileA(FilePath("window.txt"));
+}
+
+CString CGalleryTour::FilePath(LPCSTR lpszName) const
+{
+    return m_folder + "\\" + lpszName;
+}
+
+void CGalleryTour::Tick()
+{
+    switch (m_phase)
+    {
+    case Phase::Open:
+        OpenStep();
+        m_phase = Phase::Settle;
+        m_nTicks = 0;
+        m_nWaited = 0;
+        break;
+    case Phase::Settle:
+        if (!StepWindowReady() && ++m_nWaited < kAppearTicks)
+            break;
+        if (++m_nTicks >= kSettleTicks)
+        {
+            WriteHandshake();
+            m_phase = Phase::Wait;
+        }
+        break;
+    case Phase::Wait:
+        if (::GetFileAttributesA(FilePath("go")) == INVALID_FILE_ATTRIBUTES)
+            break;
+        ::DeleteFileA(FilePath("go"));
+        CloseStep();
+        m_phase = ++m_nStep < kStepCount ? Phase::Open : Phase::Done;
+        if (m_phase == Phase::Done)
+            m_pFrame->PostMessage(WM_CLOSE);
+        break;
+    case Phase::Done:
+        break;
+    }
+}
+
+// Opening never waits here: modal windows run from posted messages, with the timer going on.
+void CGalleryTour::OpenStep()
+{
+    const TourStep& step = kSteps[m_nStep];
+    if (step.opens == Opens::Menu)
+        m_pFrame->PostMessage(WM_GALLERY_OPEN_MENU, step.command);
+    else if (step.opens == Opens::Command)
+        m_pFrame->PostMessage(WM_COMMAND, step.command);
+    else if (step.opens == Opens::NextPage)
+        ::PostMessageA(TopDialog(), PSM_SETCURSEL, step.command, 0);
+}
+
+BOOL CGalleryTour::StepWindowReady()
+{
+    const TourStep& step = kSteps[m_nStep];
+    if (step.opens == Opens::Menu)
+        return TopWindowOfClass("#32768") != nullptr;
+    if (step.opens == Opens::Command)
+        return TopDialog() != nullptr;
+    return TRUE;
+}
+
+void CGalleryTour::CloseStep()
+{
+    HWND hDialog = TopDialog();
+    switch (kSteps[m_nStep].closes)
+    {
+    case Closes::Menu:
+        ::EndMenu();
+        break;
+    case Closes::Cancel:
+        ::PostMessageA(hDialog, WM_COMMAND, IDCANCEL, 0);
+        break;
+    case Closes::Sheet:
+        ::PostMessageA(hDialog, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+        break;
+    case Closes::MessageBox:
+        ::PostMessageA(hDialog, WM_COMMAND, IDOK, 0);
+        break;
+    case Closes::Nothing:
+        break;
+    }
+}
+
+HWND CGalleryTour::TopDialog() const
+{
+    return TopWindowOfClass("#32770");
+}
+
+CRect CGalleryTour::StepRect() const
+{
+    CRect rect;
+    const TourStep& step = kSteps[m_nStep];
+    if (step.opens == Opens::Nothing || step.opens == Opens::Menu)
+    {
+        m_pFrame->GetWindowRect(&rect);
+        CRect menu;
+        if (HWND hMenu = TopWindowOfClass("#32768"); hMenu != nullptr && ::GetWindowRect(hMenu, &menu))
+            rect.UnionRect(&rect, &menu);
+        return rect;
+    }
+    ::GetWindowRect(TopDialog(), &rect);
+    return rect;
+}
+
+std::vector<CGalleryTour::Part> CGalleryTour::StepParts() const
+{
+    const TourStep& step = kSteps[m_nStep];
+    std::vector<Part> parts;
+    if (step.opens == Opens::Nothing || step.opens == Opens::Menu)
+    {
+        parts.push_back({"frame", m_pFrame->m_hWnd, step.section});
+        if (step.opens == Opens::Nothing)
+            parts.push_back({"bar", m_pFrame->Bar().m_hWnd, "150"});
+        return parts;
+    }
+    HWND hDialog = TopDialog();
+    if (step.closes == Closes::MessageBox)
+    {
+        parts.push_back({"message", hDialog, step.section});
+        return parts;
+    }
+    HWND hPage = (HWND)::SendMessageA(hDialog, PSM_GETCURRENTPAGEHWND, 0, 0);
+    if (hPage != nullptr)
+    {
+        parts.push_back({"sheet", hDialog, "SettingsSheet"});
+        parts.push_back({"page", hPage, step.section});
+        return parts;
+    }
+    parts.push_back({"dialog", hDialog, step.section});
+    return parts;
+}
+
+// Written whole, then renamed, so that the other side never reads half a file.
+void CGalleryTour::WriteHandshake()
+{
+    const CRect rect = StepRect();
+    CString text;
+    text.Format("%s %d %d %d %d\n", kSteps[m_nStep].name, rect.left, rect.top, rect.Width(), rect.Height());
+    for (const Part& part : StepParts())
+    {
+        CString line;
+        line.Format("%s %llu %s\n", (LPCSTR)part.name, (unsigned long long)(UINT_PTR)part.hWnd, (LPCSTR)part.section);
+        text += line;
+    }
+    const CString temporary = FilePath("window.tmp");
+    if (FILE* file = std::fopen(temporary, "wb"))
+    {
+        std::fwrite(text.GetString(), 1, (size_t)text.GetLength(), file);
+        std::fclose(file);
+        ::MoveFileExA(temporary, FilePath("window.txt"), MOVEFILE_REPLACE_EXISTING);
+    }
+}

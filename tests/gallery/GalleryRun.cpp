@@ -1,0 +1,107 @@
+#include "GalleryRun.h"
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace gallerytest {
+
+namespace {
+
+constexpr DWORD kWaitMs = 30000;
+
+}  // namespace
+
+std::string WinePath(const char* unixPath)
+{
+    std::string folder = unixPath;
+    if (!folder.empty() && folder[0] == '/')
+        folder = "Z:" + folder;
+    for (char& c : folder)
+        if (c == '/')
+            c = '\\';
+    return folder;
+}
+
+std::string ReadBytes(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+void WriteBytes(const std::string& path, const std::string& bytes)
+{
+    std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
+}
+
+GalleryRun::GalleryRun(const std::string& ini, const std::string& folder) : m_folder(folder)
+{
+    ::CreateDirectoryA(folder.c_str(), nullptr);
+    ::DeleteFileA((folder + "\\window.txt").c_str());
+    ::DeleteFileA((folder + "\\go").c_str());
+    ::SetEnvironmentVariableA("KIV_INI", ini.c_str());
+    const std::string galleryFolder = WinePath(KIV_GALLERY_DIR);
+    std::string commandLine = "\"" + galleryFolder + "\\KivGallery.exe\" /tour \"" + folder + "\"";
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    m_bStarted = ::CreateProcessA(nullptr, &commandLine[0], nullptr, nullptr, FALSE, 0, nullptr, galleryFolder.c_str(),
+                                  &startup, &m_process) != FALSE;
+    ::SetEnvironmentVariableA("KIV_INI", nullptr);
+}
+
+GalleryRun::~GalleryRun()
+{
+    if (!m_bStarted)
+        return;
+    if (::WaitForSingleObject(m_process.hProcess, 0) == WAIT_TIMEOUT)
+        ::TerminateProcess(m_process.hProcess, 99);
+    ::CloseHandle(m_process.hThread);
+    ::CloseHandle(m_process.hProcess);
+}
+
+bool GalleryRun::Next(TourWindow& window)
+{
+    const std::string path = m_folder + "\\window.txt";
+    for (DWORD start = ::GetTickCount(); ::GetTickCount() - start < kWaitMs; ::Sleep(50))
+    {
+        std::string text = ReadBytes(path);
+        if (text.empty())
+        {
+            if (::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0)
+                return false;
+            continue;
+        }
+        ::DeleteFileA(path.c_str());
+        std::istringstream lines(text);
+        long width = 0, height = 0;
+        lines >> window.name >> window.rect.left >> window.rect.top >> width >> height;
+        window.rect.right = window.rect.left + width;
+        window.rect.bottom = window.rect.top + height;
+        window.parts.clear();
+        TourPart part;
+        unsigned long long handle = 0;
+        while (lines >> part.name >> handle >> part.section)
+        {
+            part.hWnd = (HWND)(UINT_PTR)handle;
+            window.parts.push_back(part);
+        }
+        return true;
+    }
+    return false;
+}
+
+void GalleryRun::GoOn()
+{
+    WriteBytes(m_folder + "\\go", "go");
+}
+
+long GalleryRun::WaitForExit()
+{
+    DWORD code = 0;
+    if (::WaitForSingleObject(m_process.hProcess, kWaitMs) != WAIT_OBJECT_0 ||
+        !::GetExitCodeProcess(m_process.hProcess, &code))
+        return -1;
+    return (long)code;
+}
+
+}  // namespace gallerytest
