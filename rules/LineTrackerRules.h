@@ -3,12 +3,25 @@
 // (which hooks a mouse message leads to, in which order).
 #pragma once
 
+#include <climits>
+
 namespace kiv::rules {
 
 inline constexpr unsigned kTrackerSolid = 0x01;
 inline constexpr unsigned kTrackerDotted = 0x02;  // takes precedence: the pen style is style & 2
 inline constexpr unsigned kTrackerVertical = 0x40;
 inline constexpr int kTrackerTolerance = 2;
+inline constexpr int kTrackerHoverCursorBase = 0xFA00;
+inline constexpr int kTrackerDragCursorBase = 0xFA20;
+
+// Truncation toward zero; a value outside int (or not a number) gives INT_MIN, as the
+// processor's conversion does, where a plain cast would be undefined.
+constexpr int TruncateToInt(float value) noexcept
+{
+    if (!(value > -2147483904.0f && value < 2147483648.0f))
+        return INT_MIN;
+    return static_cast<int>(value);
+}
 
 constexpr float TrackerScale(int dotsPerInch) noexcept
 {
@@ -26,42 +39,46 @@ constexpr int TrackerPenWidth(int width, float scale) noexcept
 {
     if (!(scale > 1.0f))
         return width;
-    return static_cast<int>(static_cast<float>(width > 1 ? width : 1) * scale + 0.5f);
+    return TruncateToInt(static_cast<float>(width > 1 ? width : 1) * scale + 0.5f);
 }
 
 // Whether a coordinate across the line (y of a horizontal one, x of a vertical one) is on it.
 constexpr bool TrackerHit(int coordinate, int position, float scale) noexcept
 {
     float tolerance = static_cast<float>(kTrackerTolerance) * scale;
-    if (static_cast<int>(static_cast<float>(coordinate) + tolerance + 0.5f) < position)
+    if (TruncateToInt(static_cast<float>(coordinate) + tolerance + 0.5f) < position)
         return false;
-    return static_cast<int>(static_cast<float>(coordinate) - tolerance) <= position;
+    return TruncateToInt(static_cast<float>(coordinate) - tolerance) <= position;
 }
 
 // Half the width of the band invalidated around the line while it is dragged.
 constexpr int TrackerHalfBand(float scale) noexcept
 {
-    return static_cast<int>(scale * 0.5f + 0.5f);
+    return TruncateToInt(scale * 0.5f + 0.5f);
 }
 
 // Cursor resources: 2000/2001 for a horizontal line, 2002/2003 for a vertical one.
+constexpr int TrackerCursor(unsigned style, int base) noexcept
+{
+    return static_cast<int>(((style & kTrackerVertical) | static_cast<unsigned>(base)) >> 5);
+}
 constexpr int TrackerHoverCursor(unsigned style) noexcept
 {
-    return static_cast<int>(((style & kTrackerVertical) | 0xFA00u) >> 5);
+    return TrackerCursor(style, kTrackerHoverCursorBase);
 }
 constexpr int TrackerDragCursor(unsigned style) noexcept
 {
-    return static_cast<int>(((style & kTrackerVertical) | 0xFA20u) >> 5);
+    return TrackerCursor(style, kTrackerDragCursorBase);
 }
 
-// The drag of a line, message by message. The two state bits tell the drawing hook which pass
-// it is in: bit 0 the drag is ending, bit 1 the pass for the previous position.
+// The drag of a line, message by message, over the line's own position (a hook that moves
+// the line moves it for the drag too). The two state bits tell the drawing hook which pass it
+// is in: bit 0 the drag is ending, bit 1 the pass for the previous position.
 class TrackerDrag
 {
 public:
     enum Step
     {
-        kAdjust,      // the proposed position may be changed
         kDrawOld,     // drawing pass for the previous position (bit 1 set)
         kChanged,     // told of the change, with the position before it
         kDrawNew,     // drawing at the new position
@@ -70,9 +87,9 @@ public:
     static constexpr unsigned kEnding = 0x1;
     static constexpr unsigned kPreviousPass = 0x2;
 
-    explicit TrackerDrag(int start) noexcept : m_start(start), m_position(start) {}
+    explicit TrackerDrag(int& position) noexcept : m_position(position), m_start(position) {}
 
-    int Position() const noexcept { return m_position; }
+    int Start() const noexcept { return m_start; }
     unsigned State() const noexcept { return m_state; }
     bool Moved() const noexcept { return m_moved; }
 
@@ -128,8 +145,8 @@ public:
     }
 
 private:
+    int& m_position;
     int m_start;
-    int m_position;
     unsigned m_state = 0;
     bool m_moved = false;
 };

@@ -1,7 +1,6 @@
 #include "mfcCLineTracker.h"
 
 #include "LineTrackerRules.h"
-#include "LineTrackerOwnership.h"
 
 namespace rules = kiv::rules;
 
@@ -9,13 +8,14 @@ IMPLEMENT_DYNAMIC(mfcCLineTracker, CObject)
 
 mfcCLineTracker::mfcCLineTracker()
     : m_nStyle(0), m_nPosition(0), m_nTrackPosition(0), m_nTolerance(rules::kTrackerTolerance), m_bEnding(0),
-      m_bPreviousPass(0), m_nWidth(0), m_clrLine(0), m_hHoverCursor(nullptr), m_hDragCursor(nullptr), m_hPen(nullptr)
+      m_bPreviousPass(0), m_bDragging(0), m_bDeleteWhenDone(0), m_nWidth(0), m_clrLine(0), m_hHoverCursor(nullptr),
+      m_hDragCursor(nullptr), m_hPen(nullptr)
 {}
 
 mfcCLineTracker::mfcCLineTracker(int position, int style, int width, COLORREF colour)
     : m_nStyle((unsigned int)style), m_nPosition(position), m_nTrackPosition(position),
-      m_nTolerance(rules::kTrackerTolerance), m_bEnding(0), m_bPreviousPass(0), m_nWidth(width), m_clrLine(colour),
-      m_hHoverCursor(nullptr), m_hDragCursor(nullptr), m_hPen(nullptr)
+      m_nTolerance(rules::kTrackerTolerance), m_bEnding(0), m_bPreviousPass(0), m_bDragging(0), m_bDeleteWhenDone(0),
+      m_nWidth(width), m_clrLine(colour), m_hHoverCursor(nullptr), m_hDragCursor(nullptr), m_hPen(nullptr)
 {}
 
 // The cursors are shared resources and stay.
@@ -118,12 +118,12 @@ void mfcCLineTracker::OnChanged(int /*position*/) {}
 
 void mfcCLineTracker::DrawTracker(int position, CWnd* pOther, CDC* pDC, CWnd* pWnd)
 {
-    int half = rules::TrackerHalfBand(ScaleOf(pDC->m_hDC));
     if (m_bPreviousPass && !m_bEnding)
     {
         m_nTrackPosition = position;
         return;
     }
+    int half = rules::TrackerHalfBand(ScaleOf(pDC->m_hDC));
     CRect band;
     pWnd->GetClientRect(&band);
     if (m_nStyle & rules::kTrackerVertical)
@@ -153,21 +153,12 @@ void mfcCLineTracker::DrawTracker(int position, CWnd* pOther, CDC* pDC, CWnd* pW
     m_nTrackPosition = position;
 }
 
-namespace {
-
-// The line that is being dragged, and whether its list let go of it meanwhile: it is then
-// deleted once its drag ends, not in the middle of it.
-mfcCLineTracker* g_pTracking = nullptr;
-bool g_bDeleteWhenDone = false;
-
-}  // namespace
-
-bool kiv::strings::DeleteAfterItsDrag(mfcCLineTracker* pTracker)
+void mfcCLineTracker::DeleteFromList()
 {
-    if (pTracker == nullptr || pTracker != g_pTracking)
-        return false;
-    g_bDeleteWhenDone = true;
-    return true;
+    if (m_bDragging)
+        m_bDeleteWhenDone = 1;  // Track is still running on this object
+    else
+        delete this;
 }
 
 int mfcCLineTracker::Track(CWnd* pWnd, CPoint start, CWnd* pOther)
@@ -176,6 +167,7 @@ int mfcCLineTracker::Track(CWnd* pWnd, CPoint start, CWnd* pOther)
         return 0;
     HWND hWnd = pWnd->m_hWnd;
     HWND hOther = pOther != nullptr ? pOther->m_hWnd : nullptr;
+    m_bDragging = 1;  // from here a paint handler that removes the line must not delete it
     AfxLockTempMaps();
     ::SetCapture(hWnd);
     ::UpdateWindow(hWnd);
@@ -184,83 +176,84 @@ int mfcCLineTracker::Track(CWnd* pWnd, CPoint start, CWnd* pOther)
     if (m_hDragCursor == nullptr)
         m_hDragCursor = LoadTrackerCursor(rules::TrackerDragCursor(m_nStyle));
     ::SetCursor(m_hDragCursor);
+    rules::TrackerDrag drag(m_nPosition);
     HWND hDCWnd = hOther != nullptr ? hOther : hWnd;
     HDC hDC = hOther != nullptr ? ::GetDCEx(hOther, nullptr, DCX_CACHE) : ::GetDC(hWnd);
-    int startPosition = m_nPosition;
-
-    mfcCLineTracker* pOuter = g_pTracking;
-    bool bOuterDelete = g_bDeleteWhenDone;
-    g_pTracking = this;
-    g_bDeleteWhenDone = false;
     CDC dc;
     dc.Attach(hDC);
-    DragLoop(pWnd, pOther, &dc);
+    DragLoop(drag, pWnd, pOther, &dc);
     dc.Detach();
-    bool bDelete = g_bDeleteWhenDone;
-    g_pTracking = pOuter;
-    g_bDeleteWhenDone = bOuterDelete;
-
     ::ReleaseDC(hDCWnd, hDC);
     ::ReleaseCapture();
     AfxUnlockTempMaps();
+    int changed = drag.Finish() ? 1 : 0;
     m_bEnding = 0;
     m_bPreviousPass = 0;
-    int changed = m_nPosition != startPosition ? 1 : 0;
-    if (bDelete)
+    m_bDragging = 0;
+    if (m_bDeleteWhenDone)
         delete this;  // its list removed it during the drag
     return changed;
 }
 
-void mfcCLineTracker::DragLoop(CWnd* pWnd, CWnd* pOther, CDC* pDC)
+namespace {
+
+enum class DragMessage
 {
-    HWND hWnd = pWnd->m_hWnd;
-    bool vertical = (m_nStyle & rules::kTrackerVertical) != 0;
-    rules::TrackerDrag drag(m_nPosition);
+    kMouse,     // a move or the release: the line follows
+    kCancel,    // Escape or the right button
+    kSwallow,   // any other key-down
+    kDispatch,  // everything else goes to its window
+};
+
+DragMessage Classify(const MSG& msg)
+{
+    switch (msg.message)
+    {
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONUP:
+        return DragMessage::kMouse;
+    case WM_RBUTTONDOWN:
+        return DragMessage::kCancel;
+    case WM_KEYDOWN:
+        return msg.wParam == VK_ESCAPE ? DragMessage::kCancel : DragMessage::kSwallow;
+    default:
+        return DragMessage::kDispatch;
+    }
+}
+
+}  // namespace
+
+void mfcCLineTracker::DragLoop(rules::TrackerDrag& drag, CWnd* pWnd, CWnd* pOther, CDC* pDC)
+{
     auto hook = [&](rules::TrackerDrag::Step step, int position) {
         m_bEnding = (drag.State() & rules::TrackerDrag::kEnding) ? 1 : 0;
         m_bPreviousPass = (drag.State() & rules::TrackerDrag::kPreviousPass) ? 1 : 0;
-        m_nPosition = drag.Position();
         if (step == rules::TrackerDrag::kChanged)
             OnChanged(position);
         else
             DrawTracker(position, pOther, pDC, pWnd);
     };
-    // The proposed position is the line's while Adjust looks at it, as it always was.
-    auto adjust = [&](int& position) {
-        m_nPosition = position;
-        Adjust(&m_nPosition);
-        position = m_nPosition;
-    };
+    auto adjust = [this](int& position) { Adjust(&position); };
+    bool vertical = (m_nStyle & rules::kTrackerVertical) != 0;
+    HWND hWnd = pWnd->m_hWnd;  // the object forgets it when the window is destroyed
     MSG msg;
     for (;;)
     {
         BOOL got = ::GetMessageA(&msg, nullptr, 0, 0);
-        if (got == 0 || got == -1)
-        {
-            ::PostQuitMessage(got == 0 ? (int)msg.wParam : 0);  // the application's end comes first
-            drag.Cancel(hook);
-            break;
-        }
+        bool quit = got == 0 || got == -1;
+        if (quit)
+            ::PostQuitMessage(got == 0 ? (int)msg.wParam : 0);  // cancels the drag; posted again for the application
         if (::GetCapture() != hWnd)
-            break;  // the capture went elsewhere: the line stays where it is
-        if (msg.message == WM_KEYDOWN || msg.message == WM_RBUTTONDOWN)
-        {
-            if (msg.message == WM_RBUTTONDOWN || msg.wParam == VK_ESCAPE)
-            {
-                drag.Cancel(hook);
-                break;
-            }
-            continue;  // other keys are swallowed while the line moves
-        }
-        if (msg.message != WM_MOUSEMOVE && msg.message != WM_LBUTTONUP)
-        {
+            return;  // the capture went elsewhere: the line stays where it is
+        DragMessage kind = quit ? DragMessage::kCancel : Classify(msg);
+        if (kind == DragMessage::kCancel)
+            return drag.Cancel(hook);
+        if (kind == DragMessage::kDispatch)
             ::DispatchMessageA(&msg);
+        if (kind != DragMessage::kMouse)
             continue;
-        }
         int proposed = vertical ? (int)(short)LOWORD(msg.lParam) : (int)(short)HIWORD(msg.lParam);
         if (drag.Mouse(proposed, msg.message == WM_LBUTTONUP, adjust, hook))
-            break;
+            return;
     }
-    drag.Finish();
-    m_nPosition = drag.Position();
 }

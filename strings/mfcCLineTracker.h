@@ -6,6 +6,10 @@
 
 #include <afxwin.h>
 
+namespace kiv::rules {
+class TrackerDrag;
+}
+
 class AFX_EXT_CLASS mfcCLineTracker : public CObject
 {
     DECLARE_DYNAMIC(mfcCLineTracker)
@@ -47,10 +51,13 @@ protected:
     // Implementation
     unsigned int m_nStyle;
     int m_nPosition;
-    int m_nTrackPosition;  // where the line was last drawn during a drag
-    int m_nTolerance;      // half the hit band at 96 dots per inch
-    unsigned int m_bEnding : 1;
-    unsigned int m_bPreviousPass : 1;
+    int m_nTrackPosition;              // where the line was last drawn during a drag
+    int m_nTolerance;                  // half the hit band at 96 dots per inch
+    unsigned int m_bEnding : 1;        // the drag is ending (released or cancelled)
+    unsigned int m_bPreviousPass : 1;  // this drawing is the pass for the previous position
+    // The owning list's bookkeeping, in the spare bits of the drag state so the layout stays.
+    unsigned int m_bDragging : 1;
+    unsigned int m_bDeleteWhenDone : 1;
     int m_nWidth;
     COLORREF m_clrLine;
     mutable HCURSOR m_hHoverCursor;
@@ -58,7 +65,10 @@ protected:
     mutable HPEN m_hPen;
 
 private:
+    friend class mfcCLineTrackers;
+    // The list lets go of the line: it is deleted now, or when its drag ends if one runs.
+    void DeleteFromList();
     static float ScaleOf(HDC hDC);
     HCURSOR LoadTrackerCursor(int id) const;
-    void DragLoop(CWnd* pWnd, CWnd* pOther, CDC* pDC);
+    void DragLoop(kiv::rules::TrackerDrag& drag, CWnd* pWnd, CWnd* pOther, CDC* pDC);
 };

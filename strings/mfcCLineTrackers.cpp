@@ -1,16 +1,20 @@
 #include "mfcCLineTrackers.h"
 
-#include "LineTrackerOwnership.h"
-
 namespace {
 
-void DeleteLine(mfcCLineTracker* pTracker)
+// The list holds only line trackers (or null).
+mfcCLineTracker* LineAt(const CObList& list, POSITION& pos)
 {
-    if (pTracker != nullptr && !kiv::strings::DeleteAfterItsDrag(pTracker))
-        delete pTracker;
+    return static_cast<mfcCLineTracker*>(list.GetNext(pos));
 }
 
 }  // namespace
+
+void mfcCLineTrackers::DeleteLine(mfcCLineTracker* pTracker)
+{
+    if (pTracker != nullptr)
+        pTracker->DeleteFromList();
+}
 
 mfcCLineTrackers::mfcCLineTrackers() : CObList(10) {}
 
@@ -27,7 +31,7 @@ POSITION mfcCLineTrackers::Add(mfcCLineTracker* pTracker)
 void mfcCLineTrackers::Draw(CDC* pDC) const
 {
     for (POSITION pos = GetHeadPosition(); pos != nullptr;)
-        if (auto* line = (const mfcCLineTracker*)GetNext(pos))
+        if (auto* line = LineAt(*this, pos))
             line->Draw(pDC);
 }
 
@@ -35,7 +39,7 @@ mfcCLineTracker* mfcCLineTrackers::HitTest(CPoint point, CWnd* pWnd) const
 {
     for (POSITION pos = GetHeadPosition(); pos != nullptr;)
     {
-        auto* line = (mfcCLineTracker*)GetNext(pos);
+        auto* line = LineAt(*this, pos);
         if (line != nullptr && line->HitTest(point, pWnd))
             return line;
     }
@@ -46,7 +50,7 @@ int mfcCLineTrackers::SetCursor(CWnd* pWnd, unsigned int nHitTest) const
 {
     for (POSITION pos = GetHeadPosition(); pos != nullptr;)
     {
-        auto* line = (const mfcCLineTracker*)GetNext(pos);
+        auto* line = LineAt(*this, pos);
         if (line != nullptr && line->SetCursor(pWnd, nHitTest))
             return 1;
     }
@@ -56,7 +60,7 @@ int mfcCLineTrackers::SetCursor(CWnd* pWnd, unsigned int nHitTest) const
 void mfcCLineTrackers::SetColor(COLORREF colour)
 {
     for (POSITION pos = GetHeadPosition(); pos != nullptr;)
-        if (auto* line = (mfcCLineTracker*)GetNext(pos))
+        if (auto* line = LineAt(*this, pos))
             line->SetColor(colour);
 }
 
@@ -73,6 +77,6 @@ int mfcCLineTrackers::Remove(mfcCLineTracker* pTracker)
 void mfcCLineTrackers::RemoveAll()
 {
     for (POSITION pos = GetHeadPosition(); pos != nullptr;)
-        DeleteLine((mfcCLineTracker*)GetNext(pos));
+        DeleteLine(LineAt(*this, pos));
     CObList::RemoveAll();
 }

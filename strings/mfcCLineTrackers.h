@@ -29,4 +29,7 @@ public:
     void* operator new(size_t size) { return ::operator new(size); }
     void* operator new(size_t size, void* place) noexcept { return ::operator new(size, place); }
     void operator delete(void* pointer) { ::operator delete(pointer); }
+
+private:
+    static void DeleteLine(mfcCLineTracker* pTracker);
 };
