@@ -5,6 +5,8 @@
 
 #include <gdiplus.h>
 
+#include <type_traits>
+
 namespace gdip = Gdiplus::DllExports;
 namespace rules = kiv::rules;
 
@@ -14,7 +16,20 @@ BEGIN_MESSAGE_MAP(CUnicodeTabCtrl, CTabCtrl)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 
-CUnicodeTabCtrl::CUnicodeTabCtrl() : m_pTabTexts(nullptr), m_nTabTexts(0)
+namespace {
+
+// How many captions the array holds. Array new of a type with a destructor keeps the element
+// count just before the elements (the C++ ABI's array cookie, which delete[] reads too), so the
+// class needs no member of its own for it.
+size_t CaptionCount(const CStringW* pTexts)
+{
+    static_assert(!std::is_trivially_destructible_v<CStringW>, "the array must carry its count");
+    return pTexts != nullptr ? reinterpret_cast<const size_t*>(pTexts)[-1] : 0;
+}
+
+}  // namespace
+
+CUnicodeTabCtrl::CUnicodeTabCtrl() : m_pTabTexts(nullptr)
 {
     m_brushNormal.CreateSolidBrush(rules::kPaleBlueGrey);
     m_brushSelected.CreateSolidBrush(rules::kSteelBlue);
@@ -27,17 +42,16 @@ CUnicodeTabCtrl::~CUnicodeTabCtrl()
     delete[] m_pTabTexts;
 }
 
-// A negative count is taken as none: the control keeps an empty set of captions rather than
-// failing. The previous captions are released; the new copy stays valid for the control's life.
+// kept: a negative count fails in the array allocation with the allocator's exception, before
+// anything changes, as hosts have always seen it. The previous captions are released only once
+// the new copy is made.
 void CUnicodeTabCtrl::SetUnicode(CStringW* pTexts, int nCount)
 {
-    int count = nCount > 0 ? nCount : 0;
-    auto* texts = new CStringW[count];
-    for (int i = 0; i < count; ++i)
+    auto* texts = new CStringW[nCount];
+    for (int i = 0; i < nCount; ++i)
         texts[i] = pTexts[i];
     delete[] m_pTabTexts;
     m_pTabTexts = texts;
-    m_nTabTexts = count;
     if (m_hWnd != nullptr)
         ModifyStyle(0, TCS_OWNERDRAWFIXED, 0);
 }
@@ -68,7 +82,7 @@ void CUnicodeTabCtrl::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     gdip::GdipSetStringFormatAlign(format, Gdiplus::StringAlignmentCenter);
     // A tab past the captions the host gave gets its fill only: nothing is read past them.
     UINT index = lpDrawItemStruct->itemID;
-    if (m_pTabTexts != nullptr && index < (UINT)m_nTabTexts)
+    if (index < CaptionCount(m_pTabTexts))
     {
         const CStringW& text = m_pTabTexts[index];
         Gdiplus::RectF layout((Gdiplus::REAL)rc.left, (Gdiplus::REAL)rc.top, (Gdiplus::REAL)(rc.right - rc.left),

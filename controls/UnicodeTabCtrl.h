@@ -13,7 +13,8 @@ public:
     ~CUnicodeTabCtrl() override;
 
     // Operations
-    // Keeps a copy of nCount captions and, on a live control, makes its tabs owner-drawn.
+    // Keeps a copy of nCount captions and, on a live control, makes its tabs owner-drawn. A
+    // negative count fails in the allocation (std::bad_alloc) and changes nothing.
     void SetUnicode(CStringW* pTexts, int nCount);
 
     // Overridables
@@ -28,7 +29,4 @@ protected:
     CStringW* m_pTabTexts;
     CBrush m_brushNormal;
     CBrush m_brushSelected;
-
-private:
-    int m_nTabTexts;  // how many captions m_pTabTexts holds
 };

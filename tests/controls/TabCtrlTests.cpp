@@ -6,6 +6,8 @@
 #include "PixelProbe.h"
 #include "WindowingTest.h"
 
+#include <new>
+
 namespace {
 
 using kivtest::PixelProbe;
@@ -122,16 +124,44 @@ TEST_F(TabTest, UnicodeTabCtrlCaptionBrushIsTransparentSoOnlyTheFillShows)
     }
 }
 
-TEST_F(TabTest, UnicodeTabCtrlWithFewerCaptionsThanTabsPaintsOnlyFills)
+TEST_F(TabTest, UnicodeTabCtrlSetUnicodeWithZeroTextsKeepsAnEmptyArray)
 {
     CUnicodeTabCtrl tabs;
     CreateTabs(tabs);
     tabs.SetUnicode(nullptr, 0);
+    EXPECT_TRUE(tabs.GetStyle() & TCS_OWNERDRAWFIXED);
     PixelProbe probe = PixelProbe::CaptureClient(tabs.m_hWnd);  // no caption is read past the array
+    for (int item = 0; item < 3; ++item)
+    {
+        CRect rect = ItemRect(tabs, item);
+        COLORREF fill = item == tabs.GetCurSel() ? kSteelBlue : kPaleBlueGrey;
+        EXPECT_EQ(fill, probe.Pixel(rect.CenterPoint().x, rect.CenterPoint().y)) << item;
+    }
+}
+
+TEST_F(TabTest, UnicodeTabCtrlWithFewerCaptionsThanTabsPaintsOnlyFillsPastThem)
+{
+    CUnicodeTabCtrl tabs;
+    CreateTabs(tabs);
+    CStringW texts[1] = {L"WWWWWW"};
+    tabs.SetUnicode(texts, 1);
+    tabs.SetCurSel(0);
+    PixelProbe probe = PixelProbe::CaptureClient(tabs.m_hWnd);
     CRect rect = ItemRect(tabs, 2);
     EXPECT_EQ(kPaleBlueGrey, probe.Pixel(rect.CenterPoint().x, rect.CenterPoint().y));
-    tabs.SetUnicode(nullptr, -5);  // a negative count keeps no captions
-    PixelProbe::CaptureClient(tabs.m_hWnd);
+}
+
+TEST_F(TabTest, UnicodeTabCtrlSetUnicodeWithANegativeCountFailsInTheAllocationAndKeepsTheCaptions)
+{
+    CUnicodeTabCtrl tabs;
+    CreateTabs(tabs);
+    CStringW texts[3] = {L"One", L"Two", L"Three"};
+    tabs.SetUnicode(texts, 3);
+    EXPECT_THROW(tabs.SetUnicode(texts, -5), std::bad_alloc);
+    tabs.SetCurSel(1);
+    PixelProbe probe = PixelProbe::CaptureClient(tabs.m_hWnd);  // still paints its three tabs
+    CRect selected = ItemRect(tabs, 1);
+    EXPECT_EQ(kSteelBlue, probe.Pixel(selected.CenterPoint().x, selected.CenterPoint().y));
 }
 
 TEST_F(TabTest, ColoredTabCtrlSubclassingMakesTheTabsOwnerDrawn)
