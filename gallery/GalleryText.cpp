@@ -17,6 +17,32 @@ CString ItemKey(UINT nID, int index)
     return key;
 }
 
+const char kNarrowProc[] = "KivGallery.NarrowProc";
+
+// The caption bar is drawn from the text that WM_GETTEXT answers, and a narrow window
+// procedure answers it in the ANSI code page. This wide procedure in front of it answers from
+// the stored wide text and hands every other message on.
+LRESULT CALLBACK WideCaptionProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    auto narrow = (WNDPROC)::GetPropA(hWnd, kNarrowProc);
+    if (message == WM_GETTEXT || message == WM_GETTEXTLENGTH)
+        return ::DefWindowProcW(hWnd, message, wParam, lParam);
+    if (message == WM_NCDESTROY)
+    {
+        ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, (LONG_PTR)narrow);
+        ::RemovePropA(hWnd, kNarrowProc);
+    }
+    return ::CallWindowProcW(narrow, hWnd, message, wParam, lParam);
+}
+
+void AnswerTextInWide(HWND hWnd)
+{
+    if (::GetPropA(hWnd, kNarrowProc) != nullptr)
+        return;
+    ::SetPropA(hWnd, kNarrowProc, (HANDLE)::GetWindowLongPtrW(hWnd, GWLP_WNDPROC));
+    ::SetWindowLongPtrW(hWnd, GWLP_WNDPROC, (LONG_PTR)WideCaptionProc);
+}
+
 }  // namespace
 
 CString Section(UINT nIDTemplate)
@@ -34,6 +60,7 @@ CStringW Translate(LPCSTR lpszText, LPCSTR lpszKey, const CString& section)
 void SetWideText(HWND hWnd, const CStringW& text)
 {
     ::DefWindowProcW(hWnd, WM_SETTEXT, 0, (LPARAM)text.GetString());
+    AnswerTextInWide(hWnd);
     // The caption bar is painted from the stored text: draw it again now.
     ::RedrawWindow(hWnd, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
 }

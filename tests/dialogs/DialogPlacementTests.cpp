@@ -353,3 +353,121 @@ TEST_F(mfcCDialog, ModalDialogSavesItsPlacementWhenItsLoopEnds)
 }
 
 }  // namespace dialogs_tests
+
+// Placement values a host or a user left in another shape
+
+namespace dialogs_tests {
+
+namespace {
+
+void WriteRaw(kivtest::RegistrySandbox& registry, const char* lpszDialog, const char* lpszValue, DWORD type,
+              const void* data, DWORD size)
+{
+    HKEY hKey = nullptr;
+    CString key = CString("KIVDLG") + lpszDialog;
+    ASSERT_EQ(ERROR_SUCCESS, ::RegCreateKeyExA(registry.Key(), key, 0, nullptr, 0, KEY_WRITE, nullptr, &hKey, nullptr));
+    ASSERT_EQ(ERROR_SUCCESS, ::RegSetValueExA(hKey, lpszValue, 0, type, (const BYTE*)data, size));
+    ::RegCloseKey(hKey);
+}
+
+const char* const kPlacementValues[] = {"Left", "Top", "Right", "Bottom", "Maximized"};
+
+}  // namespace
+
+TEST_F(mfcCDialog, PlacementValuesSavedAsTextAreReadAsTheirFirstFourBytes)
+{
+    // "999" with its terminator is four bytes, read as the number 0x00393939: a rectangle off
+    // every monitor, so the dialog stays centred and nothing is restored.
+    for (const char* name : kPlacementValues)
+        WriteRaw(Registry(), "131", name, REG_SZ, "999", 4);
+    CWnd owner;
+    CreateOwner(owner, CRect(300, 200, 900, 700));
+    TestDialog dlg(IDD_RESIZABLE, &owner);
+    ASSERT_TRUE(dlg.Create(IDD_RESIZABLE, &owner));
+    CRect rect = WindowRect(dlg);
+    EXPECT_EQ(CPoint(600 - rect.Width() / 2, 450 - rect.Height() / 2), rect.TopLeft());
+    EXPECT_EQ(0x00393939, dlg.m_bMaximized);
+    EXPECT_FALSE(dlg.IsZoomed());
+    EXPECT_TRUE(dlg.DestroyWindow());
+}
+
+TEST_F(mfcCDialog, PlacementValuesTooLongForTheirBufferLeaveTheDialogCentredAndAreRewrittenOnClosing)
+{
+    const ULONGLONG big = 0x0000000100000064ull;
+    for (const char* name : kPlacementValues)
+        WriteRaw(Registry(), "131", name, REG_QWORD, &big, sizeof(big));
+    CWnd owner;
+    CreateOwner(owner, CRect(300, 200, 900, 700));
+    TestDialog dlg(IDD_RESIZABLE, &owner);
+    ASSERT_TRUE(dlg.Create(IDD_RESIZABLE, &owner));
+    ASSERT_TRUE(::IsWindow(dlg.m_hWnd));
+    CRect opened = WindowRect(dlg);
+    EXPECT_TRUE(dlg.DestroyWindow());
+    CRect saved;
+    DWORD maximized = 7;
+    ASSERT_TRUE(ReadPlacement("131", saved, maximized));  // now four-byte numbers again
+    EXPECT_EQ(opened, saved);
+    EXPECT_EQ(0u, maximized);
+}
+
+TEST_F(mfcCDialog, PlacementTextLongerThanFourBytesIsNotReadAndRepeatsTheValueBefore)
+{
+    SavePlacement("130", CRect(210, 160, 900, 800), 0);
+    WriteRaw(Registry(), "130", "Left", REG_SZ, "250000", 7);  // does not fit: the Bottom's 800 stays
+    TestDialog dlg(IDD_PLAIN, nullptr);
+    ASSERT_TRUE(dlg.Create(IDD_PLAIN, nullptr));
+    EXPECT_EQ(CPoint(800, 160), WindowRect(dlg).TopLeft());
+    EXPECT_TRUE(dlg.DestroyWindow());
+}
+
+TEST_F(mfcCDialog, PlacementValuesShorterThanFourBytesFillOnlyTheirBytes)
+{
+    SavePlacement("130", CRect(210, 160, 900, 800), 0);
+    const WORD left = 0x0190;  // 400 in the low half; the upper half keeps the Bottom read before
+    WriteRaw(Registry(), "130", "Left", REG_BINARY, &left, sizeof(left));
+    TestDialog dlg(IDD_PLAIN, nullptr);
+    ASSERT_TRUE(dlg.Create(IDD_PLAIN, nullptr));
+    EXPECT_EQ(CPoint(400, 160), WindowRect(dlg).TopLeft());
+    EXPECT_TRUE(dlg.DestroyWindow());
+}
+
+TEST_F(mfcCDialog, SavedRectangleOfZeroSizeStillOpensTheDialogWithASize)
+{
+    SavePlacement("131", CRect(300, 200, 300, 200), 0);
+    TestDialog dlg(IDD_RESIZABLE, nullptr);
+    ASSERT_TRUE(dlg.Create(IDD_RESIZABLE, nullptr));
+    CRect rect = WindowRect(dlg);
+    EXPECT_GT(rect.Width(), 0);  // the system's smallest window, not nothing
+    EXPECT_GT(rect.Height(), 0);
+    EXPECT_TRUE(dlg.DestroyWindow());
+}
+
+TEST_F(mfcCDialog, SavedRectangleOfNegativeSizeKeepsAFixedSizeDialogsTemplateSize)
+{
+    SavePlacement("130", CRect(500, 400, 300, 200), 0);
+    TestDialog dlg(IDD_PLAIN, nullptr);
+    ASSERT_TRUE(dlg.Create(IDD_PLAIN, nullptr));
+    EXPECT_EQ(TemplateSize(IDD_PLAIN), WindowRect(dlg).Size());
+    EXPECT_TRUE(dlg.DestroyWindow());
+}
+
+TEST_F(mfcCDialog, PlacementKeyThatCannotBeCreatedLeavesTheDialogCentredAndClosesCleanly)
+{
+    // A key name longer than the registry allows for one component: opening and creating fail.
+    CString longName(_T('K'), 300);
+    AFX_MODULE_STATE* pState = AfxGetModuleState();
+    LPCSTR saved = pState->m_lpszCurrentAppName;
+    pState->m_lpszCurrentAppName = longName;
+    CWnd owner;
+    CreateOwner(owner, CRect(300, 200, 900, 700));
+    TestDialog dlg(IDD_PLAIN, &owner);
+    ASSERT_TRUE(dlg.Create(IDD_PLAIN, &owner));
+    CRect rect = WindowRect(dlg);
+    EXPECT_EQ(CPoint(600 - rect.Width() / 2, 450 - rect.Height() / 2), rect.TopLeft());
+    EXPECT_TRUE(dlg.DestroyWindow());
+    HKEY hKey = nullptr;
+    EXPECT_NE(ERROR_SUCCESS, ::RegOpenKeyExA(HKEY_CURRENT_USER, "Software\\Varnelt\\" + longName, 0, KEY_READ, &hKey));
+    pState->m_lpszCurrentAppName = saved;
+}
+
+}  // namespace dialogs_tests

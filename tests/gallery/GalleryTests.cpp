@@ -47,6 +47,15 @@ std::wstring Text(HWND hWnd)
     return text;
 }
 
+// The text as the window answers WM_GETTEXT: what the system draws a caption bar from.
+std::wstring AnsweredText(HWND hWnd)
+{
+    wchar_t text[512] = {};
+    DWORD_PTR result = 0;
+    ::SendMessageTimeoutW(hWnd, WM_GETTEXT, 512, (LPARAM)text, SMTO_ABORTIFHUNG, 5000, &result);
+    return text;
+}
+
 std::wstring ClassName(HWND hWnd)
 {
     wchar_t name[64] = {};
@@ -309,6 +318,11 @@ void GalleryTour::ExpectTranslatedRun(const std::string& language)
                 EXPECT_TRUE(*translation == shown.text ||
                             (ClassName(shown.hWnd) == L"Button" && AsAnsiText(*translation) == shown.text))
                     << window.name << ": " << shown.section << "/" << shown.key;
+                if (shown.hWnd == part.hWnd)
+                {
+                    EXPECT_EQ(shown.text, AnsweredText(shown.hWnd))
+                        << window.name << ": the caption bar shows the wide caption";
+                }
             }
         ExpectCaptionsFit(window, face, [&](const ShownText& shown) {
             return store.Translation(shown.section, shown.key).value_or(shown.text);
