@@ -68,6 +68,16 @@ TEST_F(mfcCDialog, NamedTemplateTakesTheTipTextOfItsName)
     dlg.DestroyWindow();
 }
 
+TEST_F(mfcCDialog, TipTextCutInsideItsLastRecordEndsThatTipAtTheEndOfTheResource)
+{
+    TestDialog dlg("CUTTIPS", nullptr);
+    ASSERT_TRUE(dlg.Create("CUTTIPS", nullptr));
+    ASSERT_NE(nullptr, dlg.m_pToolTip);
+    std::vector<std::string> expected = {std::to_string(IDC_LABEL) + ":Label", std::to_string(IDC_OPEN) + ":Op"};
+    EXPECT_EQ(expected, TipTexts(dlg.m_pToolTip->m_hWnd));
+    dlg.DestroyWindow();
+}
+
 TEST_F(mfcCDialog, TemplateWithoutTipTextHasNoTooltip)
 {
     TestDialog dlg(IDD_RESIZABLE, nullptr);
