@@ -361,3 +361,66 @@ TEST_F(LocalizationManager, TranslateDialogSurvivesADialogDestroyedDuringTheWalk
 }
 
 }  // namespace localization_tests
+
+namespace localization_tests {
+
+TEST_F(LocalizationManager, TranslateDialogWithANullSectionUsesTheEmptySection)
+{
+    UseRecordingStore();
+    WriteSetting("German");
+    Manager* m = Manager::Get();
+    m->SetTranslation("File", CStringW(L"Datei"), "1005", "");
+    TestDialog dialog;
+    HWND label = dialog.Add("Static", 1005, "File");
+    RetitleSpy spy;
+    spy.Watch(label);
+    EXPECT_EQ(1, m->TranslateDialog(dialog.Wnd(), CString((LPCSTR) nullptr)));
+    EXPECT_TRUE(spy.Matches({SetText(), Unicode()}));
+    ASSERT_EQ(2u, spy.Messages().size());
+    EXPECT_EQ("Datei", spy.Messages()[0].text);
+    EXPECT_EQ("", spy.Messages()[1].text);
+}
+
+TEST_F(LocalizationManager, SendTranslationToWndWithANullSectionOrANullWindowDoesNotCrash)
+{
+    UseRecordingStore();
+    WriteSetting("");
+    Manager* m = Manager::Get();
+    m->SetTranslation("File", CStringW(L"Datei"), "1005", "");
+    TestDialog dialog;
+    HWND label = dialog.Add("Static", 1005, "File");
+    m->SendTranslationToWnd(label, "File", CString("1005"), CString((LPCSTR) nullptr));
+    EXPECT_EQ(L"Datei", WideText(label));
+    m->SendTranslationToWnd(nullptr, "Gone", CString("1006"), CString((LPCSTR) nullptr));
+    const TranslationEntry* miss = CachedEntry(m, "", "1006");
+    ASSERT_NE(nullptr, miss);  // the miss is recorded even though no window shows it
+    EXPECT_STREQ("Gone", miss->defaultText);
+}
+
+// Nothing but the translation and the section reaches a translated control (its text is read
+// without a message); an edit box hears nothing at all.
+TEST_F(LocalizationManager, TranslateDialogSendsATranslatedControlNothingElseAndAnEditBoxNothing)
+{
+    UseRecordingStore();
+    WriteSetting("German");
+    Manager* m = Manager::Get();
+    m->SetTranslation("File", CStringW(L"Datei"), "1005", "2001");
+    m->SetTranslation("Name", CStringW(L"Vorname"), "1006", "2001");
+    TestDialog dialog;
+    HWND label = dialog.Add("Static", 1005, "File");
+    HWND edit = dialog.Add("Edit", 1006, "Name");
+    MessageSpy spy;
+    spy.Ignore({WM_PAINT, WM_NCPAINT, WM_ERASEBKGND, WM_CTLCOLORSTATIC, WM_CTLCOLOREDIT, WM_TIMER});
+    spy.Watch(label);
+    spy.Watch(edit);
+    m->TranslateDialog(dialog.Wnd(), 2001);
+    std::vector<UINT> toLabel, toEdit;
+    for (const kivtest::SpyMessage& message : spy.Messages())
+        (message.hwnd == label ? toLabel : toEdit).push_back(message.message);
+    EXPECT_EQ((std::vector<UINT>{WM_SETTEXT, WM_UNICODE}), toLabel);
+    EXPECT_TRUE(toEdit.empty()) << toEdit.size() << " messages, the first " << (toEdit.empty() ? 0 : toEdit[0]);
+    spy.Unwatch(label);
+    spy.Unwatch(edit);
+}
+
+}  // namespace localization_tests
