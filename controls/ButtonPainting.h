@@ -11,6 +11,8 @@ namespace kiv::controls {
 
 inline void RepaintButton(HWND hWnd, BOOL bErase)
 {
+    if (hWnd == nullptr)
+        return;  // no window yet: a null handle would invalidate every window of the desktop
     ::InvalidateRect(hWnd, nullptr, bErase);
     ::UpdateWindow(hWnd);
 }

@@ -602,3 +602,14 @@ TEST_F(ColorButton, GroupBoxIsPaintedByTheSystem)
     EXPECT_EQ(0, ours.Count(kSteelBlue, client));
     EXPECT_EQ(0, DifferingPixels(ours, system, client));
 }
+
+TEST_F(ColorButton, MoveButtonWithoutAWindowRepaintsNoOtherWindow)
+{
+    TestColorButton button;
+    ::UpdateWindow(m_parent.m_hWnd);
+    ASSERT_FALSE(HasUpdateRegion(m_parent.m_hWnd));
+    button.MoveButton(20, 50, 100, 30, TRUE);
+    button.SetColor(RGB(1, 2, 3), RGB(4, 5, 6));
+    EXPECT_EQ(nullptr, button.m_hWnd);
+    EXPECT_FALSE(HasUpdateRegion(m_parent.m_hWnd));  // a null handle would have reached every window
+}

@@ -900,3 +900,25 @@ TEST_F(UnicodeButton, DrawItemDrawsTheWideCaptionOnlyInWideMode)
     PixelProbe underlay(client.Width(), client.Height(), kUnderlay);
     EXPECT_EQ(0, DifferingPixels(probe, WithWideCaption(underlay, DialogFont(), button.TextW(), x, y), client));
 }
+
+TEST_F(UnicodeButton, WithoutAWindowStartsNarrowAndDrawsIntoAMemoryContextWithoutCrashing)
+{
+    TestUnicodeButton button;
+    EXPECT_FALSE(button.Unicode());
+    EXPECT_FALSE(button.OverControl());
+    HDC hScreen = ::GetDC(nullptr);
+    HDC hDC = ::CreateCompatibleDC(hScreen);
+    HBITMAP hBitmap = ::CreateCompatibleBitmap(hScreen, 120, 30);
+    HGDIOBJ hOld = ::SelectObject(hDC, hBitmap);
+    DRAWITEMSTRUCT item = {ODT_BUTTON, 0, 0, ODA_DRAWENTIRE, 0, nullptr, hDC, {0, 0, 120, 30}, 0};
+    button.SetFlags(TRUE, FALSE);  // wide mode with no caption and no window to ask for a font
+    button.DrawItem(&item);
+    button.SetFlags(FALSE, FALSE);
+    button.DrawItem(&item);
+    ::SelectObject(hDC, hOld);
+    ::DeleteObject(hBitmap);
+    ::DeleteDC(hDC);
+    ::ReleaseDC(nullptr, hScreen);
+    EXPECT_EQ(nullptr, button.m_hWnd);
+    EXPECT_TRUE(button.TextW().IsEmpty());
+}
