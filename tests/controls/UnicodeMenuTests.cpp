@@ -284,3 +284,47 @@ TEST_F(UnicodeMenu, OwnerDrawnItemWithoutARecordIsLeftAlone)
     menu.MeasureItem(&measure);
     EXPECT_EQ(33u, measure.itemWidth);
 }
+
+TEST_F(UnicodeMenu, FirstLevelItemsGetTheMenuBarColourOnlyWhenMarkedAsMenuBar)
+{
+    // The two colours made to differ for the span of the test, so each shows which it is.
+    const int element = COLOR_MENUBAR;
+    const COLORREF original = ::GetSysColor(COLOR_MENUBAR);
+    const COLORREF distinct =
+        Opaque(::GetSysColor(COLOR_MENU)) == RGB(10, 200, 30) ? RGB(30, 10, 200) : RGB(10, 200, 30);
+    ASSERT_TRUE(::SetSysColors(1, &element, &distinct));
+    m_bar.TranslateMenu(&m_bar, kSection, 1, m_window.m_hWnd);
+    PixelProbe bar = DrawItemInto(&m_bar, RecordOf(m_bar.m_hMenu, 0), 0);
+    TestUnicodeMenu popup;
+    popup.CreatePopupMenu();
+    ::AppendMenuA(popup.m_hMenu, MF_STRING, kOpen, "&Open");
+    popup.TranslateMenu(&popup, kSection, 0, m_window.m_hWnd);
+    PixelProbe notBar = DrawItemInto(&popup, RecordOf(popup.m_hMenu, 0), 0);
+    ::SetSysColors(1, &element, &original);
+    EXPECT_EQ(1, RecordOf(m_bar.m_hMenu, 0)->isMenuBar);
+    EXPECT_EQ(distinct, bar.Pixel(159, 0));
+    EXPECT_EQ(0, RecordOf(popup.m_hMenu, 0)->isMenuBar);
+    EXPECT_EQ(Opaque(::GetSysColor(COLOR_MENU)), notBar.Pixel(159, 0));
+}
+
+TEST_F(UnicodeMenu, ItemWithALongerTranslationWidensTheDropDown)
+{
+    Translate();
+    MEASUREITEMSTRUCT before = {ODT_MENU, 0, kClose, 0, 0, (ULONG_PTR)RecordOf(File(), 2)};
+    CMenu::FromHandlePermanent(File())->MeasureItem(&before);
+    m_manager->SetTranslation("&Close", CStringW(L"Schlie\x00DF\x0065n und alles andere auch"), "32772", kSection);
+    TestUnicodeMenu bar;
+    bar.CreateMenu();
+    HMENU file = ::CreatePopupMenu();
+    ::AppendMenuA(file, MF_STRING, kOpen, "&Open");
+    ::AppendMenuA(file, MF_STRING, kClose, "&Close");
+    ::AppendMenuA(bar.m_hMenu, MF_POPUP, (UINT_PTR)file, "&File");
+    bar.TranslateMenu(&bar, kSection, 1, m_window.m_hWnd);
+    MEASUREITEMSTRUCT open = {ODT_MENU, 0, kOpen, 0, 0, (ULONG_PTR)RecordOf(file, 0)};
+    MEASUREITEMSTRUCT after = {ODT_MENU, 0, kClose, 0, 0, (ULONG_PTR)RecordOf(file, 1)};
+    CMenu::FromHandlePermanent(file)->MeasureItem(&open);
+    CMenu::FromHandlePermanent(file)->MeasureItem(&after);
+    // The drop-down is as wide as its widest item: the long translation now sets it.
+    EXPECT_GT(after.itemWidth, before.itemWidth);
+    EXPECT_GT(after.itemWidth, open.itemWidth);
+}
