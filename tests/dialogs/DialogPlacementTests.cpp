@@ -352,23 +352,9 @@ TEST_F(mfcCDialog, ModalDialogSavesItsPlacementWhenItsLoopEnds)
     EXPECT_EQ(0u, maximized);
 }
 
-}  // namespace dialogs_tests
-
 // Placement values a host or a user left in another shape
 
-namespace dialogs_tests {
-
 namespace {
-
-void WriteRaw(kivtest::RegistrySandbox& registry, const char* lpszDialog, const char* lpszValue, DWORD type,
-              const void* data, DWORD size)
-{
-    HKEY hKey = nullptr;
-    CString key = CString("KIVDLG") + lpszDialog;
-    ASSERT_EQ(ERROR_SUCCESS, ::RegCreateKeyExA(registry.Key(), key, 0, nullptr, 0, KEY_WRITE, nullptr, &hKey, nullptr));
-    ASSERT_EQ(ERROR_SUCCESS, ::RegSetValueExA(hKey, lpszValue, 0, type, (const BYTE*)data, size));
-    ::RegCloseKey(hKey);
-}
 
 const char* const kPlacementValues[] = {"Left", "Top", "Right", "Bottom", "Maximized"};
 
@@ -379,7 +365,7 @@ TEST_F(mfcCDialog, PlacementValuesSavedAsTextAreReadAsTheirFirstFourBytes)
     // "999" with its terminator is four bytes, read as the number 0x00393939: a rectangle off
     // every monitor, so the dialog stays centred and nothing is restored.
     for (const char* name : kPlacementValues)
-        WriteRaw(Registry(), "131", name, REG_SZ, "999", 4);
+        ASSERT_TRUE(Registry().WriteValue("KIVDLG131", name, REG_SZ, "999", 4));
     CWnd owner;
     CreateOwner(owner, CRect(300, 200, 900, 700));
     TestDialog dlg(IDD_RESIZABLE, &owner);
@@ -395,7 +381,7 @@ TEST_F(mfcCDialog, PlacementValuesTooLongForTheirBufferLeaveTheDialogCentredAndA
 {
     const ULONGLONG big = 0x0000000100000064ull;
     for (const char* name : kPlacementValues)
-        WriteRaw(Registry(), "131", name, REG_QWORD, &big, sizeof(big));
+        ASSERT_TRUE(Registry().WriteValue("KIVDLG131", name, REG_QWORD, &big, sizeof(big)));
     CWnd owner;
     CreateOwner(owner, CRect(300, 200, 900, 700));
     TestDialog dlg(IDD_RESIZABLE, &owner);
@@ -413,7 +399,8 @@ TEST_F(mfcCDialog, PlacementValuesTooLongForTheirBufferLeaveTheDialogCentredAndA
 TEST_F(mfcCDialog, PlacementTextLongerThanFourBytesIsNotReadAndRepeatsTheValueBefore)
 {
     SavePlacement("130", CRect(210, 160, 900, 800), 0);
-    WriteRaw(Registry(), "130", "Left", REG_SZ, "250000", 7);  // does not fit: the Bottom's 800 stays
+    // Seven bytes do not fit the four-byte buffer: the Bottom's 800 stays in it.
+    ASSERT_TRUE(Registry().WriteValue("KIVDLG130", "Left", REG_SZ, "250000", 7));
     TestDialog dlg(IDD_PLAIN, nullptr);
     ASSERT_TRUE(dlg.Create(IDD_PLAIN, nullptr));
     EXPECT_EQ(CPoint(800, 160), WindowRect(dlg).TopLeft());
@@ -424,7 +411,7 @@ TEST_F(mfcCDialog, PlacementValuesShorterThanFourBytesFillOnlyTheirBytes)
 {
     SavePlacement("130", CRect(210, 160, 900, 800), 0);
     const WORD left = 0x0190;  // 400 in the low half; the upper half keeps the Bottom read before
-    WriteRaw(Registry(), "130", "Left", REG_BINARY, &left, sizeof(left));
+    ASSERT_TRUE(Registry().WriteValue("KIVDLG130", "Left", REG_BINARY, &left, sizeof(left)));
     TestDialog dlg(IDD_PLAIN, nullptr);
     ASSERT_TRUE(dlg.Create(IDD_PLAIN, nullptr));
     EXPECT_EQ(CPoint(400, 160), WindowRect(dlg).TopLeft());

@@ -360,10 +360,6 @@ TEST_F(LocalizationManager, TranslateDialogSurvivesADialogDestroyedDuringTheWalk
     m->SendTranslationToWnd(first, "a", 1, 2001);  // a dead handle: no effect
 }
 
-}  // namespace localization_tests
-
-namespace localization_tests {
-
 TEST_F(LocalizationManager, TranslateDialogWithANullSectionUsesTheEmptySection)
 {
     UseRecordingStore();

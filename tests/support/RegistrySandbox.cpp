@@ -57,10 +57,19 @@ bool RegistrySandbox::ReadString(const char* lpszSubKey, const char* lpszValue, 
 
 void RegistrySandbox::WriteDword(const char* lpszSubKey, const char* lpszValue, DWORD value)
 {
+    WriteValue(lpszSubKey, lpszValue, REG_DWORD, &value, sizeof(value));
+}
+
+bool RegistrySandbox::WriteValue(const char* lpszSubKey, const char* lpszValue, DWORD type, const void* data,
+                                 DWORD size)
+{
     HKEY hKey = nullptr;
-    ::RegCreateKeyExA(m_hKey, lpszSubKey ? lpszSubKey : "", 0, nullptr, 0, KEY_WRITE, nullptr, &hKey, nullptr);
-    ::RegSetValueExA(hKey, lpszValue, 0, REG_DWORD, (const BYTE*)&value, sizeof(value));
+    if (::RegCreateKeyExA(m_hKey, lpszSubKey ? lpszSubKey : "", 0, nullptr, 0, KEY_WRITE, nullptr, &hKey, nullptr) !=
+        ERROR_SUCCESS)
+        return false;
+    bool written = ::RegSetValueExA(hKey, lpszValue, 0, type, (const BYTE*)data, size) == ERROR_SUCCESS;
     ::RegCloseKey(hKey);
+    return written;
 }
 
 }  // namespace kivtest

@@ -25,6 +25,8 @@ public:
     bool ReadDword(const char* lpszSubKey, const char* lpszValue, DWORD& value) const;
     bool ReadString(const char* lpszSubKey, const char* lpszValue, CString& value) const;
     void WriteDword(const char* lpszSubKey, const char* lpszValue, DWORD value);
+    // A value of any type and size, as a user or another program may have left it.
+    bool WriteValue(const char* lpszSubKey, const char* lpszValue, DWORD type, const void* data, DWORD size);
 
 private:
     void Open();

@@ -32,6 +32,21 @@ public:
     INT_PTR BlockSize() const { return m_nBlockSize; }
 };
 
+// The window procedure of a test window whose next paint removes a line from its list.
+WNDPROC g_previousProc = nullptr;
+std::function<void()> g_onPaint;
+
+LRESULT CALLBACK RemovingPaintProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_PAINT && g_onPaint)
+    {
+        auto run = std::move(g_onPaint);
+        g_onPaint = nullptr;
+        run();
+    }
+    return ::CallWindowProcA(g_previousProc, hWnd, message, wParam, lParam);
+}
+
 }  // namespace
 
 TEST_F(LineTrackers, IsAnObjectListWithBlocksOfTen)
@@ -219,25 +234,6 @@ TEST_F(LineTrackers, RemoveAllDuringADragDeletesTheOtherLinesAtOnce)
     EXPECT_TRUE(draggedGone);
     EXPECT_EQ(nullptr, ::GetCapture());
 }
-
-namespace {
-
-// The window procedure of a test window whose next paint removes a line from its list.
-WNDPROC g_previousProc = nullptr;
-std::function<void()> g_onPaint;
-
-LRESULT CALLBACK RemovingPaintProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message == WM_PAINT && g_onPaint)
-    {
-        auto run = std::move(g_onPaint);
-        g_onPaint = nullptr;
-        run();
-    }
-    return ::CallWindowProcA(g_previousProc, hWnd, message, wParam, lParam);
-}
-
-}  // namespace
 
 TEST_F(LineTrackers, LineRemovedByThePaintThatStartsItsDragGoesWhenTheDragEnds)
 {
