@@ -33,6 +33,7 @@ struct TourStep
     UINT command;
     Closes closes;
     const char* section;  // the texts' section of the window (or its page)
+    int pointAt = 0;      // a control the pointer rests on until its tooltip shows
 };
 
 // The order of the windows, and how each is opened and closed.
@@ -40,6 +41,7 @@ const TourStep kSteps[] = {
     {"frame", Opens::Nothing, 0, Closes::Nothing, "128"},
     {"menu", Opens::Menu, 1, Closes::Menu, "128"},
     {"main", Opens::Command, ID_VIEW_MAIN, Closes::Cancel, "200"},
+    {"main-tooltip", Opens::Command, ID_VIEW_MAIN, Closes::Cancel, "200", IDC_NEXT},
     {"settings-display", Opens::Command, ID_VIEW_SETTINGS, Closes::Nothing, "300"},
     {"settings-files", Opens::NextPage, 1, Closes::Sheet, "310"},
     {"details", Opens::Command, ID_VIEW_DETAILS, Closes::Cancel, "400"},
@@ -81,12 +83,17 @@ HWND TopWindowOfClass(const char* className)
     return search.found;
 }
 
+// The pointer rests off every window, so that no button shows its hover colour.
+void PointerAway()
+{
+    ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
+}
+
 }  // namespace
 
 CGalleryTour::CGalleryTour(CMainFrame* pFrame, const CString& folder) : m_pFrame(pFrame), m_folder(folder)
 {
-    // The pointer rests off every window, so that no button shows its hover colour.
-    ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
+    PointerAway();
     ::DeleteFileA(FilePath("go"));
     ::DeleteFileA(FilePath("window.txt"));
 }
@@ -146,14 +153,31 @@ BOOL CGalleryTour::StepWindowReady()
     const TourStep& step = kSteps[m_nStep];
     if (step.opens == Opens::Menu)
         return TopWindowOfClass("#32768") != nullptr;
-    if (step.opens == Opens::Command)
-        return TopDialog() != nullptr;
-    return TRUE;
+    if (step.opens != Opens::Command)
+        return TRUE;
+    HWND hDialog = TopDialog();
+    if (hDialog == nullptr || step.pointAt == 0)
+        return hDialog != nullptr;
+    // The pointer moves once, as a person's would, and the dialog's tooltip does the rest.
+    HWND hControl = ::GetDlgItem(hDialog, step.pointAt);
+    if (!m_bPointed && hControl != nullptr)
+    {
+        CRect control;
+        ::GetWindowRect(hControl, &control);
+        ::SetCursorPos(control.CenterPoint().x, control.CenterPoint().y);
+        m_bPointed = TRUE;
+    }
+    return TopWindowOfClass(TOOLTIPS_CLASSA) != nullptr;
 }
 
 void CGalleryTour::CloseStep()
 {
     HWND hDialog = TopDialog();
+    if (m_bPointed)
+    {
+        PointerAway();
+        m_bPointed = FALSE;
+    }
     switch (kSteps[m_nStep].closes)
     {
     case Closes::Menu:
@@ -191,6 +215,10 @@ CRect CGalleryTour::StepRect() const
         return rect;
     }
     ::GetWindowRect(TopDialog(), &rect);
+    CRect tip;
+    if (HWND hTip = TopWindowOfClass(TOOLTIPS_CLASSA);
+        step.pointAt != 0 && hTip != nullptr && ::GetWindowRect(hTip, &tip))
+        rect.UnionRect(&rect, &tip);
     return rect;
 }
 
@@ -219,6 +247,8 @@ std::vector<CGalleryTour::Part> CGalleryTour::StepParts() const
         return parts;
     }
     parts.push_back({"dialog", hDialog, step.section});
+    if (HWND hTip = TopWindowOfClass(TOOLTIPS_CLASSA); step.pointAt != 0 && hTip != nullptr)
+        parts.push_back({"tooltip", hTip, step.section});
     return parts;
 }
 

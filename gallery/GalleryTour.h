@@ -1,7 +1,7 @@
 // The tour: every window of the gallery opened in turn, each held on the screen until the
 // program taking screenshots has its picture. The handshake is two files in a folder: the
 // gallery writes "window.txt" (the window's name and screen rectangle on the first line, then
-// one line per translated part: name, window handle, section), and waits until a file "go"
+// one line per part: name, window handle, section of its texts), and waits until a file "go"
 // appears, which it removes before it goes on.
 #pragma once
 
@@ -50,4 +50,5 @@ private:
     Phase m_phase = Phase::Open;
     int m_nTicks = 0;   // since the window appeared
     int m_nWaited = 0;  // since it was asked to open
+    BOOL m_bPointed = FALSE;
 };

@@ -11,6 +11,7 @@
 
 #include <commctrl.h>
 
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <memory>
@@ -29,8 +30,8 @@ constexpr COLORREF kLightBlue = RGB(221, 235, 244);
 constexpr COLORREF kPaleBlueGrey = RGB(165, 192, 209);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
-const std::vector<std::string> kTourWindows = {"frame",          "menu",    "main",   "settings-display",
-                                               "settings-files", "details", "message"};
+const std::vector<std::string> kTourWindows = {
+    "frame", "menu", "main", "main-tooltip", "settings-display", "settings-files", "details", "message"};
 
 std::wstring Widen(std::string_view utf8)
 {
@@ -237,8 +238,30 @@ protected:
     std::string m_folder;
 };
 
+// The main dialog with the pointer resting on a button: the tooltip of its "_TIPTEXT" record
+// is on the screen, beside the pointer, with the record's second line.
+void ExpectTooltip(const TourWindow& window)
+{
+    const TourPart* tip = nullptr;
+    for (const TourPart& part : window.parts)
+        if (part.name == "tooltip")
+            tip = &part;
+    ASSERT_NE(nullptr, tip) << "no tooltip shown";
+    EXPECT_TRUE(::IsWindowVisible(tip->hWnd));
+    EXPECT_EQ(L"Next picture", AnsweredText(tip->hWnd));
+    RECT tipRect;
+    RECT button;
+    ::GetWindowRect(tip->hWnd, &tipRect);
+    ::GetWindowRect(::GetDlgItem(window.parts[0].hWnd, IDC_NEXT), &button);
+    POINT pointer = {(button.left + button.right) / 2, (button.top + button.bottom) / 2};
+    EXPECT_LT(std::abs(tipRect.left - pointer.x), 64) << "the tooltip is beside the pointer";
+    EXPECT_LT(std::abs(tipRect.top - pointer.y), 64) << "the tooltip is beside the pointer";
+}
+
 void ExpectPalette(const TourWindow& window)
 {
+    if (window.name == "main-tooltip")
+        ExpectTooltip(window);
     for (const TourPart& part : window.parts)
     {
         if (part.name != "dialog" && part.name != "page")
@@ -251,13 +274,15 @@ void ExpectPalette(const TourWindow& window)
         EXPECT_EQ(kWhite, ::GetPixel(hScreen, corner.x, corner.y)) << window.name << ": the dialog is white";
         ::ReleaseDC(nullptr, hScreen);
     }
-    if (window.name != "main")
+    if (window.name != "main" && window.name != "main-tooltip")
         return;
     HWND hDialog = window.parts[0].hWnd;
     for (int id = IDC_PREVIOUS; id <= IDC_ACTUAL_SIZE; ++id)
     {
         kivtest::PixelProbe button = ScreenPixels(::GetDlgItem(hDialog, id));
-        EXPECT_EQ(kSteelBlue, button.Pixel(4, button.Height() / 2)) << "colour button " << id;
+        // The button under the pointer shows its hover colour.
+        const bool hovered = window.name == "main-tooltip" && id == IDC_NEXT;
+        EXPECT_EQ(hovered ? kLightBlue : kSteelBlue, button.Pixel(4, button.Height() / 2)) << "colour button " << id;
     }
     HWND hList = ::GetDlgItem(hDialog, IDC_PICTURES);
     EXPECT_GE(ColourRuns(hList, 4, kLightBlue), 3) << "the list's rows alternate light blue";
