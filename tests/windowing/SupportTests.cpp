@@ -1,4 +1,5 @@
 // The test support itself: spy, sandbox, probe and driver.
+#include "GuiObjects.h"
 #include "MessageSpy.h"
 #include "ModalDriver.h"
 #include "PixelProbe.h"
@@ -78,4 +79,31 @@ TEST(ModalDriver, AnswersAMessageBoxFromInsideItsLoop)
     EXPECT_EQ(IDNO, ::MessageBoxA(nullptr, "Question?", "Driver", MB_YESNO));
     EXPECT_TRUE(driver.Acted());
     EXPECT_STREQ("Question?", text);
+}
+
+TEST(GuiObjects, CountsEachGdiObjectWindowAndMenuWhileItLives)
+{
+    {
+        CWnd warmUp;  // the first window of a process makes objects that stay
+        ASSERT_TRUE(kivtest::CreateTopLevel(warmUp));
+        warmUp.DestroyWindow();
+    }
+    const kivtest::GuiObjects start = kivtest::CountGuiObjects();
+    EXPECT_GT(start.gdi, 0);
+    HBRUSH brush = ::CreateSolidBrush(RGB(1, 2, 3));
+    HPEN pen = ::CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
+    HMENU menu = ::CreatePopupMenu();
+    const kivtest::GuiObjects held = kivtest::CountGuiObjects();
+    EXPECT_EQ(start.gdi + 2, held.gdi);
+    EXPECT_EQ(start.user + 1, held.user);
+    CWnd wnd;
+    ASSERT_TRUE(kivtest::CreateTopLevel(wnd));
+    EXPECT_GT(kivtest::CountGuiObjects().user, held.user);
+    ::DeleteObject(brush);
+    ::DeleteObject(pen);
+    ::DestroyMenu(menu);
+    wnd.DestroyWindow();
+    const kivtest::GuiObjects end = kivtest::CountGuiObjects();
+    EXPECT_EQ(start.gdi, end.gdi);
+    EXPECT_EQ(start.user, end.user);
 }
