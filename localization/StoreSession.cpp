@@ -13,6 +13,48 @@ template <typename Fn> Fn Bind(HINSTANCE library, const char* exportName)
     return reinterpret_cast<Fn>(::GetProcAddress(library, exportName));
 }
 
+// The folder of a module with its last backslash, or empty when its name does not fit.
+CString FolderOf(HMODULE module)
+{
+    char path[MAX_PATH * 2] = {};
+    DWORD length = ::GetModuleFileNameA(module, path, sizeof(path));
+    if (length == 0 || length >= sizeof(path))
+        return CString();
+    CString folder(path, (int)length);
+    return folder.Left(folder.ReverseFind('\\') + 1);
+}
+
+// A sibling by its file name, from the program's folder, this library's folder, or the DLL
+// folder the process set for itself, in that order: a DLL of that name in the current folder
+// or on PATH is anyone's. One already in the process is that one.
+HINSTANCE LoadSibling(const char* fileName)
+{
+    if (::GetModuleHandleA(fileName) != nullptr)
+        return AfxLoadLibrary(fileName);
+    HMODULE self = nullptr;
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCSTR>(&FolderOf), &self);
+    CString folders[3] = {FolderOf(nullptr), FolderOf(self)};
+    char dllDirectory[MAX_PATH * 2] = {};
+    DWORD length = ::GetDllDirectoryA(sizeof(dllDirectory), dllDirectory);
+    if (length > 0 && length < sizeof(dllDirectory))
+    {
+        folders[2] = CString(dllDirectory, (int)length);
+        if (folders[2].Right(1) != "\\")
+            folders[2] += '\\';
+    }
+    for (const CString& folder : folders)
+    {
+        if (folder.IsEmpty())
+            continue;
+        CString path = folder + fileName;
+        DWORD attributes = ::GetFileAttributesA(path);
+        if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+            return AfxLoadLibrary(path);
+    }
+    return nullptr;
+}
+
 CString ReadLanguageSetting(IniReaderFn read)
 {
     return read("Environment", "LanguageSetting", "");
@@ -22,8 +64,8 @@ CString ReadLanguageSetting(IniReaderFn read)
 
 StoreSession::StoreSession()
 {
-    m_store = AfxLoadLibrary(kStoreLibrary);
-    m_util = AfxLoadLibrary(kUtilLibrary);
+    m_store = LoadSibling(kStoreLibrary);
+    m_util = LoadSibling(kUtilLibrary);
     if (m_store == nullptr || m_util == nullptr)
     {
         AfxFreeLibrary(m_store);
@@ -87,7 +129,7 @@ void StoreSession::Save(const CString& section, const CString& key, const CStrin
 
 int StoreSession::TranslationMode()
 {
-    HINSTANCE util = AfxLoadLibrary(kUtilLibrary);
+    HINSTANCE util = LoadSibling(kUtilLibrary);
     int mode = 0;
     if (util != nullptr)
     {

@@ -1,5 +1,7 @@
 #include "LanguageStore.h"
 
+#include <cstring>
+
 #include "StoreFiles.h"
 #include "StringBlock.h"
 #include "TextConversion.h"
@@ -224,7 +226,9 @@ void LanguageStore::Flush()
 
 LanguageStore::Language* LanguageStore::Find(const char* id)
 {
-    if (!id || !*id)
+    // Only a bare name of the folder: an id that walks out of it ("..", a separator, a drive)
+    // is no language, whatever the folder holds.
+    if (!id || !*id || std::strstr(id, "..") || std::strpbrk(id, "\\/:"))
         return nullptr;
     for (auto& language : m_languages)
         if (::lstrcmpiA(language->id.c_str(), id) == 0)

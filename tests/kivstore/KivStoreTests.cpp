@@ -84,6 +84,27 @@ TEST_F(KivStore, UnknownLanguageNameGivesEmptyId)
     EXPECT_STREQ("", Id(nullptr));
 }
 
+TEST_F(KivStore, LanguageIdWithAPathIsRefused)
+{
+    WriteFile("de.po", kGerman);
+    ::CreateDirectoryA(PathOf("sub").c_str(), nullptr);
+    WriteFile("sub\\fr.po", kHeader);
+    Load();
+    for (const char* id : {"..\\lang\\de", "sub\\fr", "sub/fr", ".\\de", "C:de", "..", "de\\..\\de"})
+    {
+        EXPECT_EQ(nullptr, Strings(id)) << id;
+        EXPECT_EQ(kStoreUnknownLanguage, Insert("a", L"b", id, "1", "2")) << id;
+        EXPECT_EQ(kStoreUnknownLanguage, Update(L"b", id, "1", "2")) << id;
+        CStringW text;
+        EXPECT_EQ(kStoreUnknownLanguage, Get(id, "1", "2", &text)) << id;
+    }
+    EXPECT_STREQ("", Id("sub\\fr"));
+    Unload();
+    EXPECT_EQ(kHeader, ReadFile("sub\\fr.po"));
+    ::DeleteFileA(PathOf("sub\\fr.po").c_str());
+    ::RemoveDirectoryA(PathOf("sub").c_str());
+}
+
 TEST_F(KivStore, OnlyPoFilesAreLanguages)
 {
     WriteFile("es.pot", "");
