@@ -1,6 +1,8 @@
 // Process attach and detach of the library.
 #include "KivMFCEntry.h"
 
+#include "KivRuntimeRelease.h"
+
 AFX_EXTENSION_MODULE KivMFC64DLL = {FALSE, nullptr, nullptr, nullptr, nullptr};
 
 extern "C" void InitKivMFCDLL()
@@ -23,8 +25,9 @@ extern "C" BOOL WINAPI RawDllMain(HINSTANCE, DWORD dwReason, LPVOID)
     return TRUE;
 }
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
 {
+    kiv::siblings::ReleaseRuntimeOnUnload(dwReason, lpReserved);
     switch (dwReason)
     {
     case DLL_PROCESS_ATTACH:

@@ -2,6 +2,8 @@
 // the host's resource and class chain, not the application's list.
 #include <afxdllx.h>
 
+#include "KivRuntimeRelease.h"
+
 namespace {
 
 AFX_EXTENSION_MODULE g_flexModule = {FALSE, nullptr, nullptr, nullptr, nullptr};
@@ -19,8 +21,9 @@ void SetClassListApart()
 
 }  // namespace
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID)
+extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID lpReserved)
 {
+    kiv::siblings::ReleaseRuntimeOnUnload(dwReason, lpReserved);
     if (dwReason == DLL_PROCESS_ATTACH)
     {
         if (!AfxInitExtensionModule(g_flexModule, hInstance))

@@ -2,6 +2,8 @@
 // then handed to the one store of the loaded library.
 #include "KivStore.h"
 
+#include "KivRuntimeRelease.h"
+
 #include "KivIni.h"
 #include "LanguageStore.h"
 #include "TextConversion.h"
@@ -119,7 +121,10 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved)
     if (reason == DLL_PROCESS_ATTACH)
         ::DisableThreadLibraryCalls(instance);
     if (reason != DLL_PROCESS_DETACH || !g_store)
+    {
+        kiv::siblings::ReleaseRuntimeOnUnload(reason, reserved);
         return TRUE;
+    }
     try
     {
         g_store->Flush();
@@ -132,5 +137,6 @@ BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved)
         delete g_store;
         g_store = nullptr;
     }
+    kiv::siblings::ReleaseRuntimeOnUnload(reason, reserved);
     return TRUE;
 }

@@ -421,6 +421,39 @@ TEST_F(LocalizationManager, StoreWithoutItsWritingNamesIsOnlyRead)
     EXPECT_FALSE(IsLoaded("kivstore64.dll"));
 }
 
+namespace {
+
+// Committed private memory, region by region (Wine answers 0 for the process's private bytes).
+SIZE_T PrivateBytes()
+{
+    SIZE_T total = 0;
+    MEMORY_BASIC_INFORMATION region = {};
+    for (const char* address = nullptr;
+         ::VirtualQuery(address, &region, sizeof(region)) == sizeof(region) && region.RegionSize != 0;
+         address = static_cast<const char*>(region.BaseAddress) + region.RegionSize)
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE)
+            total += region.RegionSize;
+    return total;
+}
+
+}  // namespace
+
+// The setting reader is loaded and released at every call; each load used to keep the buffer
+// its C++ runtime makes for exceptions (some 75 KB), which a host asking at every dialog lost.
+TEST_F(LocalizationManager, IsTranslationModeAThousandTimesKeepsNoMemoryOfTheSettingReader)
+{
+    UseLibraries("recording");
+    Manager* m = Manager::Get();
+    WriteSetting("German");
+    EXPECT_EQ(1, m->IsTranslationMode());
+    const SIZE_T before = PrivateBytes();
+    for (int i = 0; i < 1000; ++i)
+        m->IsTranslationMode();
+    const SIZE_T after = PrivateBytes();
+    EXPECT_LT(after, before + 1024 * 1024) << (after - before) / 1000 << " bytes kept per call";
+    EXPECT_FALSE(IsLoaded("kivutil64.dll"));
+}
+
 TEST_F(LocalizationManager, IsTranslationModeFollowsTheSettingFile)
 {
     UseLibraries("recording");

@@ -1,0 +1,312 @@
+// The soak: every dialog class and control of the library made, shown and destroyed again and
+// again in translation mode, with the process's GDI and USER objects and private bytes sampled
+// every 500 cycles.
+//   dialogs_soak <output folder> [cycles per kind, default 10000] [kind]
+// Writes <output folder>/soak.csv (kind, cycle, gdi, user, private KiB) and prints one line per
+// kind: the counts at the first and the last sample. Exit code 0 when every kind ends with the
+// GDI and USER counts it had after its first cycle (two later objects allowed, see below),
+// 1 when one does not, 2 for bad arguments.
+#include <KivMFC.h>
+#include <afxcmn.h>
+#include <afxdlgs.h>
+#include <afxext.h>
+#include <psapi.h>
+
+#include "GuiObjects.h"
+#include "dialogs_res.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kSampleEvery = 500;
+// The system's controls may make a cache of their own on a later cycle; a loss per cycle
+// would show as hundreds.
+constexpr int kLaterCaches = 2;
+
+void Pump()
+{
+    MSG msg;
+    while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE))
+    {
+        ::TranslateMessage(&msg);
+        ::DispatchMessageA(&msg);
+    }
+}
+
+// Committed private memory. Wine answers 0 for PrivateUsage, so there the address space is
+// walked region by region.
+SIZE_T PrivateBytes()
+{
+    PROCESS_MEMORY_COUNTERS_EX counters = {};
+    counters.cb = sizeof(counters);
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
+                           sizeof(counters));
+    if (counters.PrivateUsage != 0)
+        return counters.PrivateUsage;
+    SIZE_T total = 0;
+    MEMORY_BASIC_INFORMATION region = {};
+    for (const char* address = nullptr;
+         ::VirtualQuery(address, &region, sizeof(region)) == sizeof(region) && region.RegionSize != 0;
+         address = static_cast<const char*>(region.BaseAddress) + region.RegionSize)
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE)
+            total += region.RegionSize;
+    return total;
+}
+
+BOOL CreateHost(CWnd& host)
+{
+    return host.CreateEx(0, AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_ARROW), (HBRUSH)(COLOR_WINDOW + 1)),
+                         "soak", WS_OVERLAPPED | WS_CAPTION | WS_VISIBLE | WS_CLIPCHILDREN, 10, 10, 420, 320, nullptr,
+                         nullptr);
+}
+
+struct Kind
+{
+    const char* name;
+    std::function<void()> cycle;
+};
+
+std::vector<Kind> Kinds()
+{
+    return {
+        {"mfcCDialog",
+         [] {
+             mfcCDialog dlg(IDD_PLAIN, nullptr);
+             dlg.Create(IDD_PLAIN, nullptr);
+             dlg.ShowWindow(SW_SHOW);
+             dlg.UpdateWindow();
+             dlg.DestroyWindow();
+         }},
+        {"IsTranslationMode", [] { LocalizationManager::Get()->IsTranslationMode(); }},
+        {"CDialog",  // the runtime's own, for comparison
+         [] {
+             CDialog dlg(IDD_PLAIN, nullptr);
+             dlg.Create(IDD_PLAIN, nullptr);
+             dlg.ShowWindow(SW_SHOW);
+             dlg.UpdateWindow();
+             dlg.DestroyWindow();
+         }},
+        {"mfcCDialog-combo-boxes",
+         [] {
+             mfcCDialog dlg(IDD_SCHEME, nullptr);
+             dlg.Create(IDD_SCHEME, nullptr);
+             dlg.ShowWindow(SW_SHOW);
+             dlg.UpdateWindow();
+             dlg.DestroyWindow();
+         }},
+        {"mfcDialog",
+         [] {
+             mfcDialog dlg(IDD_PLAIN, nullptr);
+             dlg.Create(IDD_PLAIN, nullptr);
+             dlg.ShowWindow(SW_SHOW);
+             dlg.UpdateWindow();
+             dlg.DestroyWindow();
+         }},
+        {"mfcCPropertyPage",
+         [] {
+             mfcCPropertyPage page(IDD_PAGE, 0);
+             CPropertySheet sheet("Sheet");
+             sheet.AddPage(&page);
+             sheet.Create();
+             sheet.ShowWindow(SW_SHOW);
+             sheet.UpdateWindow();
+             sheet.DestroyWindow();
+         }},
+        {"mfcCDialogBar",
+         [] {
+             auto* frame = new CFrameWnd;
+             frame->Create(nullptr, "Frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 650, 450));
+             mfcCDialogBar bar;
+             bar.Create(frame, IDD_BAR, CBRS_TOP, 0xE810);
+             frame->RecalcLayout();
+             frame->UpdateWindow();
+             frame->DestroyWindow();
+         }},
+        {"mfcCListCtrl",
+         [] {
+             CWnd host;
+             CreateHost(host);
+             mfcCListCtrl list;
+             list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 380, 260), &host, 100);
+             list.InsertColumn(0, "Name", LVCFMT_LEFT, 120);
+             list.InsertColumn(1, "Size", LVCFMT_LEFT, 120);
+             for (int i = 0; i < 8; ++i)
+             {
+                 list.InsertItem(i, "picture.png");
+                 list.SetItemText(i, 1, "1024 x 768");
+             }
+             host.UpdateWindow();
+             host.DestroyWindow();
+         }},
+        {"CColorButton",
+         [] {
+             CWnd host;
+             CreateHost(host);
+             CColorButton button;
+             button.Create("Open", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(10, 10, 110, 40), &host, 100);
+             host.UpdateWindow();
+             host.DestroyWindow();
+         }},
+        {"CUnicodeButton",
+         [] {
+             LocalizationManager::Get()->SetTranslation("Open", CStringW(L"\x0386\x03BD\x03BF\x03B9\x03B3\x03BC\x03B1"),
+                                                        "100", "SOAK");
+             CWnd host;
+             CreateHost(host);
+             CUnicodeButton button;
+             button.Create("Open", WS_CHILD | WS_VISIBLE | BS_AUTOCHECKBOX, CRect(10, 10, 160, 40), &host, 100);
+             button.SendMessage(WM_UNICODE, 0, (LPARAM) "SOAK");
+             host.UpdateWindow();
+             host.DestroyWindow();
+         }},
+        {"CUnicodeMenu",
+         [] {
+             CWnd host;
+             CreateHost(host);
+             CUnicodeMenu menu;
+             menu.CreateMenu();
+             CMenu popup;
+             popup.CreatePopupMenu();
+             popup.AppendMenuA(MF_STRING, 101, "&Open");
+             popup.AppendMenuA(MF_SEPARATOR);
+             popup.AppendMenuA(MF_STRING, 102, "E&xit");
+             menu.AppendMenuA(MF_POPUP, (UINT_PTR)popup.Detach(), "&File");
+             menu.TranslateMenu(&menu, "SOAK", 1, host.m_hWnd);
+             host.SetMenu(&menu);
+             host.DrawMenuBar();
+             host.UpdateWindow();
+             host.SetMenu(nullptr);
+             host.DestroyWindow();
+         }},
+        {"CUnicodeTabCtrl",
+         [] {
+             CWnd host;
+             CreateHost(host);
+             CUnicodeTabCtrl tabs;
+             tabs.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 380, 260), &host, 100);
+             for (int i = 0; i < 3; ++i)
+                 tabs.InsertItem(i, "Tab");
+             auto* texts = new CStringW[3]{L"\x0395\x03BD\x03B1", L"\x0394\x03CD\x03BF", L"\x03A4\x03C1\x03AF\x03B1"};
+             tabs.SetUnicode(texts, 3);
+             host.UpdateWindow();
+             host.DestroyWindow();
+         }},
+        {"CMfcColoredTabCtrl",
+         [] {
+             CWnd host;
+             CreateHost(host);
+             HWND hTabs = ::CreateWindowExA(0, WC_TABCONTROLA, "", WS_CHILD | WS_VISIBLE, 10, 10, 370, 250, host.m_hWnd,
+                                            (HMENU)100, nullptr, nullptr);
+             CMfcColoredTabCtrl tabs;
+             tabs.SubclassWindow(hTabs);
+             for (int i = 0; i < 3; ++i)
+                 tabs.InsertItem(i, "Tab");
+             host.UpdateWindow();
+             host.DestroyWindow();
+         }},
+        {"mfcCLineTrackers",
+         [] {
+             CWnd host;
+             CreateHost(host);
+             mfcCLineTrackers lines;
+             for (int i = 0; i < 4; ++i)
+                 lines.Add(new mfcCLineTracker(
+                     40 + 30 * i, mfcCLineTracker::styleSolid | (i % 2 ? mfcCLineTracker::styleVertical : 0), 2,
+                     RGB(200, 0, 0)));
+             {
+                 CClientDC dc(&host);
+                 lines.Draw(&dc);
+             }
+             lines.HitTest(CPoint(50, 70), &host);
+             lines.RemoveAll();
+             host.DestroyWindow();
+         }},
+    };
+}
+
+void Translate()
+{
+    LocalizationManager* manager = LocalizationManager::Get();
+    manager->SetTranslation("Label", CStringW(L"\x0395\x03C4\x03B9\x03BA\x03AD\x03C4\x03B1"), "1001", "130");
+    manager->SetTranslation("Open", CStringW(L"\x0386\x03BD\x03BF\x03B9\x03B3\x03BC\x03B1"), "1003", "130");
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2)
+        return 2;
+    const std::string folder = argv[1];
+    const int cycles = argc > 2 ? std::atoi(argv[2]) : 10000;
+    const std::string only = argc > 3 ? argv[3] : "";
+    if (cycles <= 0)
+        return 2;
+    AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), SW_SHOW);
+    ::CreateDirectoryA(folder.c_str(), nullptr);
+
+    // Translation mode: a setting naming a language, and a store folder of the soak's own.
+    const std::string ini = folder + "\\kiv.ini";
+    const std::string store = folder + "\\lang";
+    ::CreateDirectoryA(store.c_str(), nullptr);
+    if (FILE* file = std::fopen(ini.c_str(), "wb"))
+    {
+        std::fprintf(file, "[Environment]\r\nLanguageSetting=Greek\r\n[Store]\r\nDirectory=%s\r\n", store.c_str());
+        std::fclose(file);
+    }
+    ::SetEnvironmentVariableA("KIV_INI", ini.c_str());
+    if (LocalizationManager::Get()->IsTranslationMode() != 1)
+    {
+        std::printf("soak: translation mode did not start\n");
+        return 1;
+    }
+    Translate();
+
+    FILE* csv = std::fopen((folder + "\\soak.csv").c_str(), "wb");
+    if (csv == nullptr)
+        return 2;
+    std::fprintf(csv, "kind,cycle,gdi,user,private_kib\n");
+    int status = 0;
+    for (const Kind& kind : Kinds())
+    {
+        if (!only.empty() && only != kind.name)
+            continue;
+        kind.cycle();  // what is made once per process
+        Pump();
+        const kivtest::GuiObjects first = kivtest::CountGuiObjects();
+        const SIZE_T firstBytes = PrivateBytes();
+        kivtest::GuiObjects last = first;
+        SIZE_T lastBytes = firstBytes;
+        for (int cycle = 1; cycle <= cycles; ++cycle)
+        {
+            kind.cycle();
+            if (cycle % 50 == 0)
+                Pump();
+            if (cycle % kSampleEvery == 0 || cycle == cycles)
+            {
+                Pump();
+                last = kivtest::CountGuiObjects();
+                lastBytes = PrivateBytes();
+                std::fprintf(csv, "%s,%d,%d,%d,%llu\n", kind.name, cycle, last.gdi, last.user,
+                             (unsigned long long)(lastBytes / 1024));
+                std::fflush(csv);
+            }
+        }
+        const bool flat = last.gdi <= first.gdi + kLaterCaches && last.user <= first.user;
+        if (!flat)
+            status = 1;
+        std::printf("%-24s %6d cycles  GDI %4d -> %4d  USER %3d -> %3d  private %7.1f -> %7.1f MiB (%+.0f bytes per "
+                    "cycle)  %s\n",
+                    kind.name, cycles, first.gdi, last.gdi, first.user, last.user, firstBytes / 1048576.0,
+                    lastBytes / 1048576.0, ((double)lastBytes - (double)firstBytes) / cycles, flat ? "flat" : "GROWS");
+        std::fflush(stdout);
+    }
+    std::fclose(csv);
+    LocalizationManager::Dispose();
+    return status;
+}
