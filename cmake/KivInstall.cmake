@@ -22,6 +22,11 @@ foreach(sibling kivutil kivstore)
   endif()
 endforeach()
 
+# The translators' and host developers' store tool.
+if(TARGET kivstore_tool)
+  install(TARGETS kivstore_tool RUNTIME DESTINATION bin)
+endif()
+
 # The compiler's run-time DLLs, for hosts that do not link the C++ runtime statically.
 foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
   execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}

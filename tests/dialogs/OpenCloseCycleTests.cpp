@@ -1,8 +1,10 @@
 // Each dialog class opened and closed a thousand times, in translation mode with translations
 // on its controls: the process's GDI and USER objects end where they were after the first
-// cycle (which makes what is made once per process: classes, stock objects, the store). The
-// system's controls may make a cache of their own on a later cycle; two such objects are
-// allowed, far from the thousand that one object kept per cycle would leave.
+// cycle (which makes what is made once per process: classes, stock objects, the store), and
+// the private memory grows by less than 4 KB per cycle. The system's controls may make a cache
+// of their own on a later cycle; two such objects are allowed, far from the thousand that one
+// object kept per cycle would leave.
+#include "DialogCycles.h"
 #include "DialogsTest.h"
 #include "GuiObjects.h"
 
@@ -11,16 +13,9 @@ namespace dialogs_tests {
 namespace {
 
 constexpr int kCycles = 1000;
-
 constexpr int kLaterCaches = 2;
-
-testing::AssertionResult SameObjects(const kivtest::GuiObjects& before, const kivtest::GuiObjects& after)
-{
-    if (after.gdi <= before.gdi + kLaterCaches && after.user <= before.user)
-        return testing::AssertionSuccess();
-    return testing::AssertionFailure() << "GDI objects " << before.gdi << " -> " << after.gdi << ", USER objects "
-                                       << before.user << " -> " << after.user << " after " << kCycles << " cycles";
-}
+// More than this per cycle is memory lost.
+constexpr SIZE_T kLostBytesPerCycle = 4096;
 
 // One cycle first, then the counts, then the thousand.
 template <class Cycle> testing::AssertionResult ObjectsStayAfterCycles(Cycle cycle)
@@ -28,6 +23,7 @@ template <class Cycle> testing::AssertionResult ObjectsStayAfterCycles(Cycle cyc
     cycle();
     PumpPending();
     const kivtest::GuiObjects before = kivtest::CountGuiObjects();
+    const SIZE_T bytesBefore = kivtest::PrivateBytes();
     if (before.gdi == 0)
         return testing::AssertionFailure() << "no GDI objects counted";
     for (int i = 0; i < kCycles; ++i)
@@ -37,7 +33,14 @@ template <class Cycle> testing::AssertionResult ObjectsStayAfterCycles(Cycle cyc
             PumpPending();
     }
     PumpPending();
-    return SameObjects(before, kivtest::CountGuiObjects());
+    const kivtest::GuiObjects after = kivtest::CountGuiObjects();
+    const SIZE_T bytesAfter = kivtest::PrivateBytes();
+    if (after.gdi > before.gdi + kLaterCaches || after.user > before.user)
+        return testing::AssertionFailure() << "GDI objects " << before.gdi << " -> " << after.gdi << ", USER objects "
+                                           << before.user << " -> " << after.user << " after " << kCycles << " cycles";
+    if (bytesAfter > bytesBefore + kCycles * kLostBytesPerCycle)
+        return testing::AssertionFailure() << (bytesAfter - bytesBefore) / kCycles << " bytes kept per cycle";
+    return testing::AssertionSuccess();
 }
 
 void TranslateSome(const char* lpszSection)
@@ -53,54 +56,26 @@ TEST_F(mfcCDialog, ThousandOpenCloseCyclesLeaveTheObjectCountsWhereTheyWere)
 {
     TranslationMode translation;
     TranslateSome("130");
-    EXPECT_TRUE(ObjectsStayAfterCycles([] {
-        TestDialog dlg(IDD_PLAIN, nullptr);
-        dlg.Create(IDD_PLAIN, nullptr);
-        dlg.ShowWindow(SW_SHOW);
-        dlg.UpdateWindow();
-        dlg.DestroyWindow();
-    }));
+    EXPECT_TRUE(ObjectsStayAfterCycles([] { kivtest::DialogCycle<TestDialog>(IDD_PLAIN); }));
 }
 
 TEST_F(mfcDialog, ThousandOpenCloseCyclesLeaveTheObjectCountsWhereTheyWere)
 {
     TranslationMode translation;
     TranslateSome("130");
-    EXPECT_TRUE(ObjectsStayAfterCycles([] {
-        TestPlainDialog dlg(IDD_PLAIN, nullptr);
-        dlg.Create(IDD_PLAIN, nullptr);
-        dlg.ShowWindow(SW_SHOW);
-        dlg.UpdateWindow();
-        dlg.DestroyWindow();
-    }));
+    EXPECT_TRUE(ObjectsStayAfterCycles([] { kivtest::DialogCycle<TestPlainDialog>(IDD_PLAIN); }));
 }
 
 TEST_F(mfcCPropertyPage, ThousandOpenCloseCyclesOfASheetLeaveTheObjectCountsWhereTheyWere)
 {
     TranslationMode translation;
-    EXPECT_TRUE(ObjectsStayAfterCycles([] {
-        ::mfcCPropertyPage page(IDD_PAGE, 0);
-        CPropertySheet sheet("Sheet");
-        sheet.AddPage(&page);
-        sheet.Create();
-        sheet.ShowWindow(SW_SHOW);
-        sheet.UpdateWindow();
-        sheet.DestroyWindow();
-    }));
+    EXPECT_TRUE(ObjectsStayAfterCycles([] { kivtest::SheetCycle<::mfcCPropertyPage>(IDD_PAGE); }));
 }
 
 TEST_F(mfcCDialogBar, ThousandCreateDestroyCyclesLeaveTheObjectCountsWhereTheyWere)
 {
     TranslationMode translation;
-    EXPECT_TRUE(ObjectsStayAfterCycles([] {
-        auto* frame = new CFrameWnd;
-        frame->Create(nullptr, "Frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 650, 450));
-        ::mfcCDialogBar bar;
-        bar.Create(frame, IDD_BAR, CBRS_TOP, 0xE810);
-        frame->RecalcLayout();
-        frame->UpdateWindow();
-        frame->DestroyWindow();  // the frame deletes itself
-    }));
+    EXPECT_TRUE(ObjectsStayAfterCycles([] { kivtest::BarCycle<::mfcCDialogBar>(IDD_BAR); }));
 }
 
 TEST_F(mfcCListCtrl, ThousandCreateDestroyCyclesWithPaintedRowsLeaveTheObjectCountsWhereTheyWere)

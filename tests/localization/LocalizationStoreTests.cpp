@@ -1,6 +1,7 @@
 // The manager against its sibling libraries: the setting reader, the store's start-up load
 // and the writing back at Dispose, read from the recording store's log, and every
 // arrangement in which a library or one of its names is missing.
+#include "GuiObjects.h"
 #include "LocalizationTestSupport.h"
 
 #include "ImageTables.h"
@@ -421,23 +422,6 @@ TEST_F(LocalizationManager, StoreWithoutItsWritingNamesIsOnlyRead)
     EXPECT_FALSE(IsLoaded("kivstore64.dll"));
 }
 
-namespace {
-
-// Committed private memory, region by region (Wine answers 0 for the process's private bytes).
-SIZE_T PrivateBytes()
-{
-    SIZE_T total = 0;
-    MEMORY_BASIC_INFORMATION region = {};
-    for (const char* address = nullptr;
-         ::VirtualQuery(address, &region, sizeof(region)) == sizeof(region) && region.RegionSize != 0;
-         address = static_cast<const char*>(region.BaseAddress) + region.RegionSize)
-        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE)
-            total += region.RegionSize;
-    return total;
-}
-
-}  // namespace
-
 // The setting reader is loaded and released at every call; each load used to keep the buffer
 // its C++ runtime makes for exceptions (some 75 KB), which a host asking at every dialog lost.
 TEST_F(LocalizationManager, IsTranslationModeAThousandTimesKeepsNoMemoryOfTheSettingReader)
@@ -446,10 +430,10 @@ TEST_F(LocalizationManager, IsTranslationModeAThousandTimesKeepsNoMemoryOfTheSet
     Manager* m = Manager::Get();
     WriteSetting("German");
     EXPECT_EQ(1, m->IsTranslationMode());
-    const SIZE_T before = PrivateBytes();
+    const SIZE_T before = kivtest::PrivateBytes();
     for (int i = 0; i < 1000; ++i)
         m->IsTranslationMode();
-    const SIZE_T after = PrivateBytes();
+    const SIZE_T after = kivtest::PrivateBytes();
     EXPECT_LT(after, before + 1024 * 1024) << (after - before) / 1000 << " bytes kept per call";
     EXPECT_FALSE(IsLoaded("kivutil64.dll"));
 }

@@ -11,7 +11,7 @@ kiv_install_package(${install})
 run(${CMAKE_COMMAND} -DPREFIX=${install} -DSOURCE=${SOURCE} -P ${CMAKE_CURRENT_LIST_DIR}/check_installed_headers.cmake)
 foreach(needed bin/KivAfx64.dll bin/KivMFC64.dll bin/kivflex64.dll bin/kivutil64.dll bin/kivstore64.dll bin/libstdc++-6.dll
                bin/libgcc_s_seh-1.dll bin/libwinpthread-1.dll share/KivMFC/mingw-w64-x86_64.cmake
-               share/KivMFC/wine-run lib/cmake/KivMFC/KivMFCConfig.cmake)
+               bin/kivstore.exe share/KivMFC/wine-run lib/cmake/KivMFC/KivMFCConfig.cmake)
   if(NOT EXISTS ${install}/${needed})
     message(FATAL_ERROR "the package lacks ${needed}")
   endif()
