@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "PixelProbe.h"
+#include "SolidImageList.h"
 #include "WindowingTest.h"
 
 #include <new>
@@ -246,18 +247,7 @@ TEST_F(TabTest, ColoredTabCtrlDrawsTheImageInsetByThreePixels)
     RecordingColoredTabs tabs;
     AttachColoured(tabs, m_parent);
     CImageList images;
-    images.Create(16, 16, ILC_COLOR24, 1, 0);
-    CBitmap bitmap;
-    {
-        CClientDC screen(nullptr);
-        bitmap.CreateCompatibleBitmap(&screen, 16, 16);
-        CDC memory;
-        memory.CreateCompatibleDC(&screen);
-        CBitmap* old = memory.SelectObject(&bitmap);
-        memory.FillSolidRect(0, 0, 16, 16, RGB(200, 0, 0));
-        memory.SelectObject(old);
-    }
-    images.Add(&bitmap, (CBitmap*)nullptr);
+    kivtest::MakeSolidImageList(images, 16, RGB(200, 0, 0));
     tabs.SetImageList(&images);
     TCITEMA item = {};
     item.mask = TCIF_IMAGE;

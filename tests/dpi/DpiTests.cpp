@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "PixelProbe.h"
+#include "SolidImageList.h"
 #include "TrackerTest.h"
 #include "WindowingTest.h"
 
@@ -142,18 +143,7 @@ protected:
         tabs.SubclassWindow(hWnd);
         tabs.InsertItem(0, "First");
         tabs.InsertItem(1, "Second");
-        m_images.Create(16, 16, ILC_COLOR24, 1, 0);
-        CBitmap bitmap;
-        {
-            CClientDC screen(nullptr);
-            bitmap.CreateCompatibleBitmap(&screen, 16, 16);
-            CDC memory;
-            memory.CreateCompatibleDC(&screen);
-            CBitmap* old = memory.SelectObject(&bitmap);
-            memory.FillSolidRect(0, 0, 16, 16, kImage);
-            memory.SelectObject(old);
-        }
-        m_images.Add(&bitmap, (CBitmap*)nullptr);
+        kivtest::MakeSolidImageList(m_images, 16, kImage);
         tabs.SetImageList(&m_images);
         TCITEMA item = {};
         item.mask = TCIF_IMAGE;
