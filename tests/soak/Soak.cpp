@@ -37,6 +37,10 @@ void Pump()
         ::TranslateMessage(&msg);
         ::DispatchMessageA(&msg);
     }
+    // What a host's message loop does when it falls idle: the temporary objects of the
+    // runtime's handle maps go.
+    AfxLockTempMaps();
+    AfxUnlockTempMaps(TRUE);
 }
 
 BOOL CreateHost(CWnd& host)
@@ -62,6 +66,9 @@ std::vector<Kind> Kinds()
     return {
         {"mfcCDialog", [] { kivtest::DialogCycle<mfcCDialog>(IDD_PLAIN); }},
         {"IsTranslationMode", [] { LocalizationManager::Get()->IsTranslationMode(); }},
+        {"TranslationMiss", [] { LocalizationManager::Get()->GetWideTranslation("Missing text", 4711, 999); },
+         true},  // each miss caches a new entry over the old one, which is not released
+        {"TranslationHit", [] { LocalizationManager::Get()->GetWideTranslation("Open", 1003, 130); }},
         {"CDialog",  // the runtime's own, for comparison
          [] { kivtest::DialogCycle<CDialog>(IDD_PLAIN); }},
         {"mfcCDialog-combo-boxes", [] { kivtest::DialogCycle<mfcCDialog>(IDD_SCHEME); }},
