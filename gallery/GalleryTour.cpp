@@ -1,6 +1,7 @@
 #include "GalleryTour.h"
 
 #include "MainFrame.h"
+#include <KivMFC.h>
 #include "resource.h"
 
 #include <commctrl.h>
@@ -81,6 +82,35 @@ HWND TopWindowOfClass(const char* className)
     Search search{className, nullptr};
     ::EnumThreadWindows(::GetCurrentThreadId(), &FindTopWindow, (LPARAM)&search);
     return search.found;
+}
+
+// The text a control shows: its translation in translation mode (a wide-text button keeps its
+// narrow caption as window text), otherwise its window text.
+CStringW ShownText(HWND hControl, const CString& section)
+{
+    wchar_t text[512] = {};
+    ::GetWindowTextW(hControl, text, 512);
+    char narrow[512] = {};
+    ::GetWindowTextA(hControl, narrow, sizeof(narrow));
+    LocalizationManager* manager = LocalizationManager::Get();
+    if (narrow[0] == '\0' || !manager->IsTranslationMode())
+        return text;
+    CString key;
+    key.Format("%d", ::GetDlgCtrlID(hControl));
+    return manager->GetWideTranslation(narrow, key, section);
+}
+
+// Pixels of a control's width that its text cannot use: a check box's or radio button's box, a
+// push button's edges, a group box's corners.
+int TextMargin(HWND hControl, int dpi)
+{
+    char className[32] = {};
+    ::GetClassNameA(hControl, className, sizeof(className));
+    if (lstrcmpiA(className, "Button") != 0)
+        return 0;
+    const LONG type = ::GetWindowLongA(hControl, GWL_STYLE) & 0x0F;
+    const int pixels = type == BS_GROUPBOX ? 16 : (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON) ? 8 : 18;
+    return ::MulDiv(pixels, dpi, 96);
 }
 
 // The pointer rests off every window, so that no button shows its hover colour.
@@ -252,6 +282,44 @@ std::vector<CGalleryTour::Part> CGalleryTour::StepParts() const
     return parts;
 }
 
+// The static texts and buttons of a part whose text is wider, in the control's own font, than
+// the room the control gives it: "cut <id> <section> <left> <top> <width> <height> <needed>
+// <room>", the rectangle on the screen.
+CString CGalleryTour::CutLines(const Part& part) const
+{
+    CString lines;
+    HDC hScreen = ::GetDC(nullptr);
+    const int dpi = ::GetDeviceCaps(hScreen, LOGPIXELSX);
+    for (HWND h = ::GetWindow(part.hWnd, GW_CHILD); h != nullptr; h = ::GetWindow(h, GW_HWNDNEXT))
+    {
+        char className[32] = {};
+        ::GetClassNameA(h, className, sizeof(className));
+        const int id = ::GetDlgCtrlID(h);
+        if ((lstrcmpiA(className, "Static") != 0 && lstrcmpiA(className, "Button") != 0) || !::IsWindowVisible(h) ||
+            id <= 0 || id >= IDC_VALUE_FIRST)
+            continue;
+        CStringW text = ShownText(h, part.section);
+        text.Remove(L'&');
+        if (text.IsEmpty())
+            continue;
+        HGDIOBJ hOld = ::SelectObject(hScreen, (HFONT)::SendMessageA(h, WM_GETFONT, 0, 0));
+        SIZE size = {};
+        ::GetTextExtentPoint32W(hScreen, text, text.GetLength(), &size);
+        ::SelectObject(hScreen, hOld);
+        CRect rect;
+        ::GetWindowRect(h, &rect);
+        const int room = rect.Width() - TextMargin(h, dpi);
+        if (size.cx <= room)
+            continue;
+        CString line;
+        line.Format("cut %d %s %d %d %d %d %d %d\n", id, (LPCSTR)part.section, rect.left, rect.top, rect.Width(),
+                    rect.Height(), (int)size.cx, room);
+        lines += line;
+    }
+    ::ReleaseDC(nullptr, hScreen);
+    return lines;
+}
+
 // Written whole, then renamed, so that the other side never reads half a file.
 void CGalleryTour::WriteHandshake()
 {
@@ -264,6 +332,9 @@ void CGalleryTour::WriteHandshake()
         line.Format("%s %llu %s\n", (LPCSTR)part.name, (unsigned long long)(UINT_PTR)part.hWnd, (LPCSTR)part.section);
         text += line;
     }
+    for (const Part& part : StepParts())
+        if (part.name == "dialog" || part.name == "page" || part.name == "bar")
+            text += CutLines(part);
     const CString temporary = FilePath("window.tmp");
     if (FILE* file = std::fopen(temporary, "wb"))
     {

@@ -1,8 +1,9 @@
 // The tour: every window of the gallery opened in turn, each held on the screen until the
 // program taking screenshots has its picture. The handshake is two files in a folder: the
 // gallery writes "window.txt" (the window's name and screen rectangle on the first line, then
-// one line per part: name, window handle, section of its texts), and waits until a file "go"
-// appears, which it removes before it goes on.
+// one line per part: name, window handle, section of its texts; then one "cut" line per control
+// whose text does not fit it), and waits until a file "go" appears, which it removes before it
+// goes on.
 #pragma once
 
 #include <afxwin.h>
@@ -42,6 +43,7 @@ private:
     HWND TopDialog() const;
     CRect StepRect() const;
     std::vector<Part> StepParts() const;
+    CString CutLines(const Part& part) const;
     CString FilePath(LPCSTR lpszName) const;
 
     CMainFrame* m_pFrame;

@@ -78,12 +78,34 @@ bool GalleryRun::Next(TourWindow& window)
         window.rect.right = window.rect.left + width;
         window.rect.bottom = window.rect.top + height;
         window.parts.clear();
-        TourPart part;
-        unsigned long long handle = 0;
-        while (lines >> part.name >> handle >> part.section)
+        window.cuts.clear();
+        std::string line;
+        while (std::getline(lines, line))
         {
-            part.hWnd = (HWND)(UINT_PTR)handle;
-            window.parts.push_back(part);
+            std::istringstream words(line);
+            std::string first;
+            if (!(words >> first))
+                continue;
+            if (first == "cut")
+            {
+                TourCut cut;
+                long w = 0, h = 0;
+                if (words >> cut.id >> cut.section >> cut.rect.left >> cut.rect.top >> w >> h >> cut.needed >> cut.room)
+                {
+                    cut.rect.right = cut.rect.left + w;
+                    cut.rect.bottom = cut.rect.top + h;
+                    window.cuts.push_back(cut);
+                }
+                continue;
+            }
+            TourPart part;
+            unsigned long long handle = 0;
+            part.name = first;
+            if (words >> handle >> part.section)
+            {
+                part.hWnd = (HWND)(UINT_PTR)handle;
+                window.parts.push_back(part);
+            }
         }
         return true;
     }

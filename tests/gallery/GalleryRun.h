@@ -17,11 +17,21 @@ struct TourPart
     std::string section;
 };
 
+// A control whose text the gallery found wider than the room its control gives it.
+struct TourCut
+{
+    int id = 0;
+    std::string section;
+    RECT rect = {};  // on the screen
+    int needed = 0, room = 0;
+};
+
 struct TourWindow
 {
-    std::string name;  // frame, menu, main, settings-display, settings-files, details, message
+    std::string name;  // frame, menu, main, main-tooltip, settings-display, settings-files, details, message
     RECT rect = {};
     std::vector<TourPart> parts;
+    std::vector<TourCut> cuts;
 };
 
 // A folder of the build, as Wine programs see it (the Unix root is drive Z:).

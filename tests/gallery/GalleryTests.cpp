@@ -352,6 +352,7 @@ void GalleryTour::ExpectTranslatedRun(const std::string& language)
         ExpectCaptionsFit(window, face, [&](const ShownText& shown) {
             return store.Translation(shown.section, shown.key).value_or(shown.text);
         });
+        EXPECT_TRUE(window.cuts.empty()) << window.name << ": the gallery reports a text that does not fit";
         ExpectPalette(window);
     });
     // Every text the gallery asked for is translated: the run adds nothing to the file.
@@ -381,6 +382,33 @@ TEST_F(GalleryTour, GreekTextsComeFromTheStoreAndFitTheirControls)
 TEST_F(GalleryTour, JapaneseTextsComeFromTheStoreAndFitTheirControls)
 {
     ExpectTranslatedRun("ja");
+}
+
+TEST_F(GalleryTour, TranslationTooLongForItsControlIsReportedAsCutWithItsRectangle)
+{
+    const std::string ini = Settings("de");
+    std::string file = gallerytest::ReadBytes(LanguageFile("de"));
+    const std::string short_ = "msgid \"File:\"\nmsgstr \"Datei:\"";
+    const size_t at = file.find(short_);
+    ASSERT_NE(std::string::npos, at);
+    file.replace(at, short_.size(), "msgid \"File:\"\nmsgstr \"Dateiname des gezeigten Bildes:\"");
+    gallerytest::WriteBytes(LanguageFile("de"), file);
+    std::vector<std::string> cut;
+    Tour(ini, [&](const TourWindow& window) {
+        for (const gallerytest::TourCut& c : window.cuts)
+        {
+            cut.push_back(window.name + " " + c.section + "/" + std::to_string(c.id));
+            EXPECT_GT(c.needed, c.room);
+            HWND hControl = ::GetDlgItem(window.parts[0].hWnd, c.id);
+            RECT rect = {};
+            ::GetWindowRect(hControl, &rect);
+            EXPECT_TRUE(::EqualRect(&rect, &c.rect)) << "the control's rectangle on the screen";
+        }
+    });
+    // The main dialog shows the label twice: alone, and with its tooltip.
+    EXPECT_EQ((std::vector<std::string>{"main 200/" + std::to_string(IDC_FILE_LABEL),
+                                        "main-tooltip 200/" + std::to_string(IDC_FILE_LABEL)}),
+              cut);
 }
 
 TEST_F(GalleryTour, CaptureRunLeavesEveryTextItShowedInTheStoreUnderItsDialogAndControl)
