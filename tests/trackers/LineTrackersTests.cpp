@@ -74,11 +74,7 @@ TEST_F(LineTrackers, DrawPaintsHeadToTailSoTheTailIsOnTop)
     list.Add(new mfcCLineTracker(40, kSolid, 1, kRed));
     list.Add(new mfcCLineTracker(40, kSolid, 1, kBlue));
     list.Add(new mfcCLineTracker(60, kSolid, 1, kGreen));
-    m_wnd.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    {
-        CClientDC dc(&m_wnd);
-        list.Draw(&dc);
-    }
+    DrawNow(list);
     PixelProbe probe = ReadNow(m_wnd);
     EXPECT_EQ(probe.Width(), RowCount(probe, 40, kBlue));
     EXPECT_EQ(probe.Width(), RowCount(probe, 60, kGreen));
@@ -90,11 +86,7 @@ TEST_F(LineTrackers, SetColorReachesEveryLine)
     list.Add(new mfcCLineTracker(30, kSolid, 1, kRed));
     list.Add(new mfcCLineTracker(60, kSolid, 1, kBlue));
     list.SetColor(kGreen);
-    m_wnd.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    {
-        CClientDC dc(&m_wnd);
-        list.Draw(&dc);
-    }
+    DrawNow(list);
     PixelProbe probe = ReadNow(m_wnd);
     EXPECT_EQ(probe.Width(), RowCount(probe, 30, kGreen));
     EXPECT_EQ(probe.Width(), RowCount(probe, 60, kGreen));

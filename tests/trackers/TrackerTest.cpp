@@ -75,6 +75,13 @@ void TrackerWindowTest::DrawNow(const mfcCLineTracker& tracker)
     tracker.Draw(&dc);
 }
 
+void TrackerWindowTest::DrawNow(const mfcCLineTrackers& list)
+{
+    m_wnd.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    CClientDC dc(&m_wnd);
+    list.Draw(&dc);
+}
+
 PixelProbe TrackerWindowTest::ReadNow(CWnd& wnd)
 {
     CRect client;

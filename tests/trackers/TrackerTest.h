@@ -77,6 +77,7 @@ protected:
     int Track(mfcCLineTracker& tracker, CPoint start, CWnd* pOther = nullptr);
     // The window is erased and painted, then the tracker draws into it.
     void DrawNow(const mfcCLineTracker& tracker);
+    void DrawNow(const mfcCLineTrackers& list);
     // The client area as it is on the screen now, without repainting.
     static PixelProbe ReadNow(CWnd& wnd);
     // How many pixels of one row (or one column) of the probe have the colour.
