@@ -87,10 +87,33 @@ void AttachUnicodeButtons(CWnd* pParent, UnicodeButtons& buttons, UINT nFirstKep
     }
 }
 
+namespace {
+
+// A face the system has; a translator's typo (or a pseudo-locale's accents) keeps the template's.
+bool FaceExists(const CString& face)
+{
+    LOGFONTA wanted = {};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    lstrcpynA(wanted.lfFaceName, face, LF_FACESIZE);
+    bool found = false;
+    HDC hDC = ::GetDC(nullptr);
+    ::EnumFontFamiliesExA(
+        hDC, &wanted,
+        [](const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM lParam) -> int {
+            *reinterpret_cast<bool*>(lParam) = true;
+            return 0;
+        },
+        reinterpret_cast<LPARAM>(&found), 0);
+    ::ReleaseDC(nullptr, hDC);
+    return found;
+}
+
+}  // namespace
+
 void ApplyTranslatedFont(CWnd* pWnd, CFont& font)
 {
     CString face = LocalizationManager::Get()->GetTranslation(kTemplateFont, "Font", kFontSection);
-    if (face.IsEmpty() || face == kTemplateFont || pWnd->GetFont() == nullptr)
+    if (face.IsEmpty() || face == kTemplateFont || pWnd->GetFont() == nullptr || !FaceExists(face))
         return;
     LOGFONTA lf = {};
     pWnd->GetFont()->GetLogFont(&lf);

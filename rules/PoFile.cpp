@@ -433,8 +433,13 @@ void AppendEntry(std::string& out, const PoEntry& entry, const std::string& nl)
 
 bool PoEntry::IsFuzzy() const noexcept
 {
+    return HasFlag("fuzzy");
+}
+
+bool PoEntry::HasFlag(std::string_view flag) const noexcept
+{
     for (std::string_view line : comments)
-        if (IsFlagLine(line) && HasFlag(line, "fuzzy"))
+        if (IsFlagLine(line) && kiv::rules::HasFlag(line, flag))
             return true;
     return false;
 }

@@ -46,6 +46,8 @@ struct PoEntry
     bool IsChanged() const noexcept { return textBegin == textEnd; }
     void MarkChanged() noexcept { textBegin = textEnd = 0; }
     bool IsFuzzy() const noexcept;
+    // A flag of its "#," lines: "fuzzy", "c-format", "no-c-format", ...
+    bool HasFlag(std::string_view flag) const noexcept;
     // The translation as gettext uses it at run time: none while the entry is fuzzy, which
     // means no translator has confirmed it yet.
     std::string_view Translation() const noexcept { return IsFuzzy() ? std::string_view() : msgstr; }

@@ -185,3 +185,150 @@ TEST_F(StoreTool, CheckSaysWhyAFileCannotBeUsed)
     EXPECT_NE(std::string::npos, out.find("es.po: ok"));
     EXPECT_EQ(0, Run({"check", "es"}));
 }
+
+namespace {
+
+const char kFullHeader[] = "msgid \"\"\nmsgstr \"\"\n\"Project-Id-Version: gallery 1\\n\"\n"
+                           "\"PO-Revision-Date: 2026-01-01 00:00+0000\\n\"\n\"Language: de\\n\"\n"
+                           "\"MIME-Version: 1.0\\n\"\n\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+                           "\"Content-Transfer-Encoding: 8bit\\n\"\n";
+const char kGermanPlural[] = "\"Plural-Forms: nplurals=2; plural=(n != 1);\\n\"\n";
+
+std::string Plural(const char* flags, const char* one, const char* many, std::vector<const char*> forms)
+{
+    std::string entry = "\n";
+    if (flags)
+        entry += std::string("#, ") + flags + "\n";
+    entry += std::string("msgid \"") + one + "\"\nmsgid_plural \"" + many + "\"\n";
+    for (std::size_t i = 0; i < forms.size(); ++i)
+        entry += "msgstr[" + std::to_string(i) + "] \"" + forms[i] + "\"\n";
+    return entry;
+}
+
+struct Verdict
+{
+    const char* name;
+    std::string file;
+    bool accepted;  // what msgfmt -c says of it
+    const char* said;
+};
+
+}  // namespace
+
+TEST_F(StoreTool, CheckGivesMsgfmtsVerdictOnPluralFormsAndCFormat)
+{
+    std::string h = kFullHeader, p = h + kGermanPlural;
+    const Verdict verdicts[] = {
+        {"plural-no-header", h + Plural(nullptr, "file", "files", {"Datei", "Dateien"}), false, "lacks"},
+        {"plural-ok", p + Plural(nullptr, "file", "files", {"Datei", "Dateien"}), true, "ok"},
+        {"plural-one-form", p + Plural(nullptr, "file", "files", {"Datei"}), false, "1 plural forms"},
+        {"plural-three-forms", p + Plural(nullptr, "file", "files", {"a", "b", "c"}), false, "3 plural forms"},
+        {"plural-untranslated", h + Plural(nullptr, "file", "files", {"", ""}), true, "ok"},
+        {"plural-invalid", h + "\"Plural-Forms: nplurals=2; plural=(n != 1;\\n\"\n", false, "invalid"},
+        {"plural-too-large", h + "\"Plural-Forms: nplurals=2; plural=n%3;\\n\"\n", false, "as large as 2"},
+        {"plural-negative", h + "\"Plural-Forms: nplurals=2; plural=n-1;\\n\"\n", false, "negative"},
+        {"c-format-type", h + "\n#, c-format\nmsgid \"%d files\"\nmsgstr \"%s Dateien\"\n", false, "argument 1 is int"},
+        {"c-format-missing", h + "\n#, c-format\nmsgid \"%d files\"\nmsgstr \"Dateien\"\n", false, "takes 0"},
+        {"c-format-width", h + "\n#, c-format\nmsgid \"%d files\"\nmsgstr \"%5d Dateien\"\n", true, "ok"},
+        {"c-format-positional", h + "\n#, c-format\nmsgid \"%d in %s\"\nmsgstr \"%2$s: %1$d\"\n", true, "ok"},
+        {"c-format-fuzzy", h + "\n#, fuzzy, c-format\nmsgid \"%d files\"\nmsgstr \"%s Dateien\"\n", true, "ok"},
+        {"no-flag", h + "\nmsgid \"%d files\"\nmsgstr \"%s Dateien\"\n", true, "ok"},
+        {"plural-form-of-one", p + Plural("c-format", "%d file", "%d files", {"eine Datei", "%d Dateien"}), true, "ok"},
+        {"plural-form-of-many", p + Plural("c-format", "%d file", "%d files", {"%d Datei", "Dateien"}), false,
+         "msgstr[1]"},
+        {"plural-form-type", p + Plural("c-format", "%d file", "%d files", {"%s Datei", "%d Dateien"}), false,
+         "msgstr[0]"},
+        {"line-feed", h + "\nmsgid \"a\"\nmsgstr \"b\\n\"\n", false, "line feed"},
+        {"no-header", "msgid \"a\"\nmsgstr \"b\"\n", false, "no header"},
+    };
+    for (const Verdict& verdict : verdicts)
+    {
+        SCOPED_TRACE(verdict.name);
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+        Write("de.po", verdict.file);
+        EXPECT_EQ(verdict.accepted ? 0 : 1, Run({"check"})) << m_out.str();
+        EXPECT_NE(std::string::npos, m_out.str().find(verdict.said)) << m_out.str();
+        EXPECT_EQ(verdict.accepted, MsgfmtAccepts(m_folder / "de.po"));
+    }
+}
+
+TEST_F(StoreTool, FileItCannotReadFailsEveryCommandAndIsLeftAsItIs)
+{
+    const std::string broken = std::string(kHeader) + "msgid \"unclosed\n";
+    Write("de.po", broken);
+    EXPECT_EQ(1, Run({"stats"}));
+    EXPECT_NE(std::string::npos, m_err.str().find("de.po:6: ")) << m_err.str();
+    EXPECT_EQ(1, Run({"missing", "de"}));
+    EXPECT_EQ(1, Run({"check", "de"}));
+    Write("capture.po", kHeader + Entry("100", "9", "Print", ""));
+    EXPECT_EQ(1, Run({"merge", "de", (m_folder / "capture.po").string()}));
+    EXPECT_EQ(broken, Read("de.po"));
+    EXPECT_FALSE(fs::exists(m_folder / "de.po.new"));
+}
+
+TEST_F(StoreTool, MissingCaptureFileFailsAndTheLanguageIsNotWritten)
+{
+    WriteGerman();
+    const std::string before = Read("de.po");
+    EXPECT_EQ(1, Run({"merge", "de", (m_folder / "no-such-capture.po").string()}));
+    EXPECT_NE(std::string::npos, m_err.str().find("cannot read"));
+    EXPECT_EQ(before, Read("de.po"));
+}
+
+TEST_F(StoreTool, PseudoLeavesAPseudoLocaleItCannotReadAsItIs)
+{
+    WriteGerman();
+    Write("qps-ploc.po", "msgid \"broken");
+    EXPECT_EQ(1, Run({"pseudo"}));
+    EXPECT_NE(std::string::npos, m_err.str().find("left as it is"));
+    EXPECT_EQ("msgid \"broken", Read("qps-ploc.po"));
+}
+
+TEST_F(StoreTool, StoreFolderThatIsAFileAndBadCommandLinesFailClearly)
+{
+    Write("file", "not a folder");
+    std::ostringstream out, err;
+    EXPECT_EQ(1, RunStoreTool({"--store", (m_folder / "file").string(), "stats"}, out, err));
+    EXPECT_NE(std::string::npos, err.str().find("is not a folder"));
+    EXPECT_EQ(2, Run({"missing"}));
+    EXPECT_EQ(2, Run({"merge", "de"}));
+    EXPECT_EQ(2, Run({"missing", "de", "--section"}));
+    EXPECT_EQ(2, RunStoreTool({}, out, err));
+    EXPECT_EQ(0, RunStoreTool({"--help"}, out, err));
+}
+
+// The commands over the gallery's own store, as a host developer runs them before a release.
+TEST_F(StoreTool, GalleryStoreIsCompleteCheckedAndMakesAPseudoLocale)
+{
+    for (const char* language : {"de", "el", "ja"})
+        fs::copy_file(fs::path(KIV_SOURCE_DIR) / "gallery" / "lang" / (std::string(language) + ".po"),
+                      m_folder / (std::string(language) + ".po"));
+    ASSERT_EQ(0, Run({"stats"}));
+    std::string stats = m_out.str();
+    for (const char* language : {"de: ", "el: ", "ja: "})
+    {
+        std::size_t at = stats.find(language);
+        ASSERT_NE(std::string::npos, at) << stats;
+        EXPECT_NE(std::string::npos, stats.find("translated, 0 missing, 0 fuzzy", at)) << stats;
+    }
+    for (const char* language : {"de", "el", "ja", "Deutsch"})
+    {
+        ASSERT_EQ(0, Run({"missing", language})) << language;
+        EXPECT_EQ("", m_out.str()) << language;
+    }
+    ASSERT_EQ(0, Run({"check"})) << m_out.str();
+    EXPECT_EQ("de.po: ok\nel.po: ok\nja.po: ok\n", m_out.str());
+
+    ASSERT_EQ(0, Run({"pseudo"})) << m_err.str();
+    ASSERT_TRUE(MsgfmtAccepts(m_folder / "qps-ploc.po"));
+    ASSERT_EQ(0, Run({"stats"}));
+    std::size_t german = m_out.str().find("de: "), pseudo = m_out.str().find("qps-ploc: ");
+    ASSERT_NE(std::string::npos, pseudo);
+    std::string count = m_out.str().substr(german + 4, m_out.str().find(' ', german + 4) - german - 4);
+    EXPECT_EQ(0u, m_out.str().find("qps-ploc: " + count + " texts, " + count + " translated", pseudo) - pseudo)
+        << m_out.str();
+    EXPECT_EQ(0, Run({"check", "qps-ploc"})) << m_out.str();
+    std::string file = Read("qps-ploc.po");
+    EXPECT_NE(std::string::npos, file.find("msgid \"Show &rulers\"\nmsgstr \"" + PseudoText("Show &rulers") + "\""));
+}

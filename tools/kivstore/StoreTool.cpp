@@ -1,6 +1,7 @@
 #include "StoreTool.h"
 
 #include "PoCatalog.h"
+#include "PoChecks.h"
 #include "PoFile.h"
 
 #include <algorithm>
@@ -15,6 +16,7 @@
 #include <set>
 
 namespace fs = std::filesystem;
+using kiv::rules::PluralForms;
 using kiv::rules::PoCatalog;
 using kiv::rules::PoEntry;
 using kiv::rules::PoError;
@@ -102,7 +104,9 @@ private:
     int Pseudo();
     int Check(const std::vector<std::string>& languages);
     bool CheckFile(const fs::path& path);
-    void CheckEntry(const fs::path& path, const PoEntry& entry, int& problems);
+    void CheckPluralForms(const std::string& name, const PoCatalog& catalog, const std::string& header,
+                          std::vector<bool>& oneNumber, int& problems);
+    void CheckEntry(const fs::path& path, const PoEntry& entry, const std::vector<bool>& oneNumber, int& problems);
 
     std::vector<fs::path> LanguageFiles();
     std::optional<fs::path> FindLanguage(const std::string& name);
@@ -170,6 +174,8 @@ int StoreTool::Run(std::vector<std::string> args)
         (args.empty() ? m_err : m_out) << kUsage;
         return args.empty() ? 2 : 0;
     }
+    if (fs::exists(m_folder) && !fs::is_directory(m_folder))
+        return Fail("the store folder " + m_folder.string() + " is not a folder");
     if (!fs::is_directory(m_folder))
         return Fail("the store folder " + m_folder.string() + " does not exist");
     const std::string& command = args[0];
@@ -361,34 +367,117 @@ bool StoreTool::CheckFile(const fs::path& path)
         return false;
     }
     int problems = 0;
+    if (catalog.File().Header() == nullptr && !catalog.File().entries.empty())
+    {
+        m_out << name << ": has no header entry (msgfmt -c refuses it; the store writes one when it next saves "
+              << "the file)\n";
+        ++problems;
+    }
+    std::vector<bool> oneNumber;  // the plural forms that stand for one number only
+    CheckPluralForms(name, catalog, header, oneNumber, problems);
     for (const PoEntry& entry : catalog.File().entries)
-        if (IsStoreEntry(entry) && !entry.msgstr.empty() && !entry.IsFuzzy())
-            CheckEntry(path, entry, problems);
+        if (!entry.IsHeader() && !entry.IsFuzzy())
+            CheckEntry(path, entry, oneNumber, problems);
     if (problems == 0)
         m_out << name << ": ok\n";
     return problems == 0;
 }
 
-void StoreTool::CheckEntry(const fs::path& path, const PoEntry& entry, int& problems)
+bool IsTranslated(const PoEntry& entry)
+{
+    if (!entry.hasPlural)
+        return !entry.msgstr.empty();
+    return std::any_of(entry.plurals.begin(), entry.plurals.end(), [](std::string_view s) { return !s.empty(); });
+}
+
+// The header's plural forms, checked as msgfmt checks them whenever the header has them or an
+// entry has translated plural forms.
+void StoreTool::CheckPluralForms(const std::string& name, const PoCatalog& catalog, const std::string& header,
+                                 std::vector<bool>& oneNumber, int& problems)
+{
+    const auto& entries = catalog.File().entries;
+    bool needed = std::any_of(entries.begin(), entries.end(),
+                              [](const PoEntry& e) { return e.hasPlural && !e.IsFuzzy() && IsTranslated(e); });
+    if (!needed && kiv::rules::HeaderField(header, "Plural-Forms").empty())
+        return;
+    PluralForms forms;
+    std::string problem;
+    if (kiv::rules::ParsePluralForms(header, forms, problem))
+        problem = kiv::rules::CheckPluralRange(forms);
+    if (!problem.empty())
+    {
+        m_out << name << ": " << problem << " (msgfmt -c)\n";
+        ++problems;
+        return;
+    }
+    oneNumber = kiv::rules::FormsOfOneNumber(forms);
+}
+
+std::string Where(const fs::path& path, const PoEntry& entry)
 {
     std::string where = path.filename().string() + ": ";
-    where.append(entry.context.substr(0, entry.context.find('\n')));
-    where += " ";
-    where.append(entry.context.substr(entry.context.find('\n') + 1));
+    if (IsStoreEntry(entry))
+    {
+        where.append(entry.context.substr(0, entry.context.find('\n')));
+        where += " ";
+        return where.append(entry.context.substr(entry.context.find('\n') + 1));
+    }
+    std::string_view text = entry.msgid.substr(0, 40);
+    return where.append("\"").append(text).append(text.size() < entry.msgid.size() ? "...\"" : "\"");
+}
+
+// Format directives as msgfmt compares them for a "c-format" entry; a store entry is compared
+// without the flag, but only when its translation reads as a format at all ("50 %" is text).
+std::string CheckFormat(const PoEntry& entry, const std::vector<bool>& oneNumber)
+{
+    bool flagged = entry.HasFlag("c-format");
+    if (entry.HasFlag("no-c-format") || (!flagged && !IsStoreEntry(entry)))
+        return std::string();
+    std::vector<kiv::rules::FormatArgument> arguments;
+    auto compare = [&](std::string_view source, std::string_view translation, bool mayOmit) {
+        if (translation.empty() || (!flagged && !kiv::rules::ParseCFormat(translation, arguments)))
+            return std::string();
+        return kiv::rules::CompareCFormat(source, translation, mayOmit);
+    };
+    if (!entry.hasPlural)
+        return compare(entry.msgid, entry.msgstr, false);
+    for (std::size_t i = 0; i < entry.plurals.size(); ++i)
+    {
+        std::string problem = compare(entry.msgidPlural, entry.plurals[i], i < oneNumber.size() && oneNumber[i]);
+        if (!problem.empty())
+            return "msgstr[" + std::to_string(i) + "]: " + problem;
+    }
+    return std::string();
+}
+
+void StoreTool::CheckEntry(const fs::path& path, const PoEntry& entry, const std::vector<bool>& oneNumber,
+                           int& problems)
+{
+    if (!IsTranslated(entry))
+        return;
+    std::string where = Where(path, entry);
     if (kiv::rules::HasOtherOuterLineFeeds(entry))
     {
         m_out << where << ": the translation begins or ends with a line feed its text does not (msgfmt -c)\n";
         ++problems;
     }
-    if (FormatSpecifiers(entry.msgid) != FormatSpecifiers(entry.msgstr))
+    if (entry.hasPlural && !oneNumber.empty() && entry.plurals.size() != oneNumber.size())
     {
-        m_out << where << ": format specifiers differ between the text and its translation\n";
+        m_out << where << ": " << entry.plurals.size() << " plural forms where the header's nplurals says "
+              << oneNumber.size() << " (msgfmt -c)\n";
         ++problems;
     }
-    if (Utf16Length(entry.msgstr) > kLongestTranslation)
+    std::string format = CheckFormat(entry, oneNumber);
+    if (!format.empty())
     {
-        m_out << where << ": the translation has " << Utf16Length(entry.msgstr)
-              << " UTF-16 units; a dialog control shows at most " << kLongestTranslation << "\n";
+        m_out << where << ": format specifiers differ between the text and its translation: " << format << "\n";
+        ++problems;
+    }
+    std::size_t longest = Utf16Length(entry.msgstr);
+    if (IsStoreEntry(entry) && longest > kLongestTranslation)
+    {
+        m_out << where << ": the translation has " << longest << " UTF-16 units; a dialog control shows at most "
+              << kLongestTranslation << "\n";
         ++problems;
     }
 }
