@@ -1,6 +1,7 @@
 #include "GalleryTour.h"
 
 #include "MainFrame.h"
+#include "TourItems.h"
 #include <KivMFC.h>
 #include "resource.h"
 
@@ -333,8 +334,17 @@ void CGalleryTour::WriteHandshake()
         text += line;
     }
     for (const Part& part : StepParts())
+    {
         if (part.name == "dialog" || part.name == "page" || part.name == "bar")
+        {
             text += CutLines(part);
+            for (const TourItem& item : ControlItems(part.hWnd, part.section))
+                text += ItemLine(item) + ItemCutLine(item);
+        }
+        if (part.name == "frame")
+            for (const TourItem& item : MenuItems(part.hWnd, part.section))
+                text += ItemLine(item);
+    }
     const CString temporary = FilePath("window.tmp");
     if (FILE* file = std::fopen(temporary, "wb"))
     {

@@ -514,7 +514,10 @@ bool ParsePo(std::string bytes, PoFile& file, PoError* error)
         return false;
     }
     if (text.size() != bytes.size())
+    {
         bytes.erase(0, bytes.size() - text.size());
+        text = bytes;  // the view moved with the bytes
+    }
     // Lines ended by a carriage return alone, which msgfmt reads too: read as line feeds and
     // written back with carriage returns.
     bool carriageReturnsOnly = text.find('\n') == std::string_view::npos && text.find('\r') != std::string_view::npos;

@@ -10,6 +10,14 @@ namespace {
 
 constexpr DWORD kWaitMs = 30000;
 
+std::wstring Widen(const std::string& utf8)
+{
+    std::wstring wide(utf8.size(), L'\0');
+    int length = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), (int)utf8.size(), wide.data(), (int)wide.size());
+    wide.resize((size_t)length);
+    return wide;
+}
+
 }  // namespace
 
 std::string WinePath(const char* unixPath)
@@ -79,6 +87,7 @@ bool GalleryRun::Next(TourWindow& window)
         window.rect.bottom = window.rect.top + height;
         window.parts.clear();
         window.cuts.clear();
+        window.items.clear();
         std::string line;
         while (std::getline(lines, line))
         {
@@ -86,6 +95,22 @@ bool GalleryRun::Next(TourWindow& window)
             std::string first;
             if (!(words >> first))
                 continue;
+            if (first == "item")
+            {
+                TourItem item;
+                long w = 0, h = 0;
+                if (words >> item.kind >> item.id >> item.section >> item.key >> item.rect.left >> item.rect.top >> w >>
+                    h >> item.needed >> item.room)
+                {
+                    item.rect.right = item.rect.left + w;
+                    item.rect.bottom = item.rect.top + h;
+                    std::string text;
+                    std::getline(words, text);
+                    item.text = Widen(text.substr(text.empty() ? 0 : 1));
+                    window.items.push_back(item);
+                }
+                continue;
+            }
             if (first == "cut")
             {
                 TourCut cut;

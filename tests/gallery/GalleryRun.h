@@ -26,12 +26,26 @@ struct TourCut
     int needed = 0, room = 0;
 };
 
+// A text of a window that is not a window's own: a combo box item, a tab, a column of a list's
+// header, a menu item (whose key "bar.<n>" stands for the sub-menu at that place of the bar).
+struct TourItem
+{
+    std::string kind;  // combo, tab, header, menu
+    int id = 0;
+    std::string section;
+    std::string key;
+    RECT rect = {};            // on the screen
+    int needed = 0, room = 0;  // room 0: the control sizes the item to its text
+    std::wstring text;
+};
+
 struct TourWindow
 {
     std::string name;  // frame, menu, main, main-tooltip, settings-display, settings-files, details, message
     RECT rect = {};
     std::vector<TourPart> parts;
     std::vector<TourCut> cuts;
+    std::vector<TourItem> items;
 };
 
 // A folder of the build, as Wine programs see it (the Unix root is drive Z:).

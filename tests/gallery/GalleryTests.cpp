@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "GalleryRun.h"
+#include "MenuTextHash.h"
 #include "PixelProbe.h"
 #include "PoCatalog.h"
 #include "resource.h"
@@ -20,6 +21,7 @@
 #include <string>
 #include <vector>
 
+using gallerytest::TourItem;
 using gallerytest::TourPart;
 using gallerytest::TourWindow;
 
@@ -186,6 +188,34 @@ int ColourRuns(HWND hWnd, int x, COLORREF colour)
     return runs;
 }
 
+// The key of an item in the store: a sub-menu's is the hash of its text in the menu resource.
+std::string StoreKey(const TourItem& item)
+{
+    if (item.key.rfind("bar.", 0) != 0)
+        return item.key;
+    static HMENU hMenu =
+        ::LoadMenuA(::LoadLibraryExA((gallerytest::WinePath(KIV_GALLERY_DIR) + "\\KivGallery.exe").c_str(), nullptr,
+                                     LOAD_LIBRARY_AS_DATAFILE),
+                    MAKEINTRESOURCEA(IDR_MAINFRAME));
+    char text[128] = {};
+    const int length = ::GetMenuStringA(hMenu, (UINT)std::stoi(item.key.substr(4)), text, sizeof(text), MF_BYPOSITION);
+    return std::to_string((int)kiv::rules::MenuTextHash((const unsigned char*)text, (size_t)length));
+}
+
+// Each item whose control gives it a fixed room fits it.
+void ExpectItemsFit(const TourWindow& window)
+{
+    for (const TourItem& item : window.items)
+    {
+        if (item.room > 0)
+        {
+            EXPECT_LE(item.needed, item.room)
+                << window.name << ": the " << item.kind << " item " << item.section << "/" << item.key
+                << " is cut: it needs " << item.needed << " pixels and has " << item.room;
+        }
+    }
+}
+
 class GalleryTour : public testing::Test
 {
 protected:
@@ -333,6 +363,7 @@ void GalleryTour::ExpectTranslatedRun(const std::string& language)
     StoreFile store(LanguageFile(language));
     ASSERT_TRUE(store.Loaded()) << language;
     const std::wstring face = store.Translation("Gallery", "Font").value_or(L"MS Shell Dlg");
+    std::set<std::string> kinds;
     Tour(ini, [&](const TourWindow& window) {
         for (const TourPart& part : window.parts)
             for (const ShownText& shown : TextsOf(part))
@@ -349,12 +380,24 @@ void GalleryTour::ExpectTranslatedRun(const std::string& language)
                         << window.name << ": the caption bar shows the wide caption";
                 }
             }
+        for (const TourItem& item : window.items)
+        {
+            std::optional<std::wstring> translation = store.Translation(item.section, StoreKey(item));
+            ASSERT_TRUE(translation.has_value()) << window.name << ": no translation of the " << item.kind << " item "
+                                                 << item.section << "/" << item.key;
+            EXPECT_TRUE(*translation == item.text)
+                << window.name << ": the " << item.kind << " item " << item.section << "/" << item.key;
+        }
+        for (const TourItem& item : window.items)
+            kinds.insert(item.kind);
+        ExpectItemsFit(window);
         ExpectCaptionsFit(window, face, [&](const ShownText& shown) {
             return store.Translation(shown.section, shown.key).value_or(shown.text);
         });
         EXPECT_TRUE(window.cuts.empty()) << window.name << ": the gallery reports a text that does not fit";
         ExpectPalette(window);
     });
+    EXPECT_EQ((std::set<std::string>{"combo", "header", "menu", "tab"}), kinds) << "every kind of item was seen";
     // Every text the gallery asked for is translated: the run adds nothing to the file.
     EXPECT_EQ(before, gallerytest::ReadBytes(LanguageFile(language)));
 }
@@ -365,6 +408,7 @@ TEST_F(GalleryTour, EnglishShowsEveryWindowInTheLibrarysPalette)
 {
     Tour(Settings(""), [&](const TourWindow& window) {
         ExpectCaptionsFit(window, L"MS Shell Dlg", [](const ShownText& shown) { return shown.text; });
+        ExpectItemsFit(window);
         ExpectPalette(window);
     });
 }
@@ -416,10 +460,17 @@ TEST_F(GalleryTour, CaptureRunLeavesEveryTextItShowedInTheStoreUnderItsDialogAnd
     gallerytest::WriteBytes(LanguageFile("capture"), "msgid \"\"\nmsgstr \"\"\n"
                                                      "\"Content-Type: text/plain; charset=UTF-8\\n\"\n");
     std::vector<ShownText> shown;
+    std::vector<TourItem> items;
+    std::set<std::string> kinds;
     Tour(Settings("capture"), [&](const TourWindow& window) {
         for (const TourPart& part : window.parts)
             for (const ShownText& text : TextsOf(part))
                 shown.push_back(text);
+        for (const TourItem& item : window.items)
+        {
+            items.push_back(item);
+            kinds.insert(item.kind);
+        }
     });
     StoreFile store(LanguageFile("capture"));
     ASSERT_TRUE(store.Loaded());
@@ -429,6 +480,14 @@ TEST_F(GalleryTour, CaptureRunLeavesEveryTextItShowedInTheStoreUnderItsDialogAnd
         const kiv::rules::PoEntry* entry = store.Find(text.section, text.key);
         ASSERT_NE(nullptr, entry) << text.section << "/" << text.key;
         EXPECT_EQ(text.text, Widen(entry->msgid)) << text.section << "/" << text.key;
+    }
+    // Combo box items, tabs, the list's columns and the menus: each under its section and key.
+    EXPECT_EQ((std::set<std::string>{"combo", "header", "menu", "tab"}), kinds);
+    for (const TourItem& item : items)
+    {
+        const kiv::rules::PoEntry* entry = store.Find(item.section, StoreKey(item));
+        ASSERT_NE(nullptr, entry) << item.kind << " " << item.section << "/" << item.key;
+        EXPECT_EQ(item.text, Widen(entry->msgid)) << item.kind << " " << item.section << "/" << item.key;
     }
     // The menu's commands, under the frame's section and their ids.
     HMENU hMenu = ::LoadMenuA(::LoadLibraryExA((gallerytest::WinePath(KIV_GALLERY_DIR) + "\\KivGallery.exe").c_str(),

@@ -152,6 +152,17 @@ TEST(ParsePo, CarriageReturnsAloneEndLinesAsMsgfmtReadsThem)
     EXPECT_NE(std::string::npos, written.find("msgstr \"e\"\r"));
 }
 
+TEST(ParsePo, CarriageReturnsAloneAfterAByteOrderMarkAreSeenAsLineEnds)
+{
+    // Found by fuzzing: the lines were looked for where the mark had been, not in the text.
+    const std::string text = "msgid \"a\"\rmsgstr \"b\"\r";
+    PoFile file = Parsed("\xEF\xBB\xBF" + text);
+    ASSERT_EQ(1u, file.entries.size());
+    EXPECT_EQ("\r", file.Newline());
+    EXPECT_EQ("b", file.entries[0].msgstr);
+    EXPECT_EQ(text, WritePo(file));
+}
+
 TEST(ParsePo, CommentsAfterTheLastEntryAreTheTrailer)
 {
     PoFile file = Parsed("msgid \"a\"\nmsgstr \"b\"\n\n#~ msgid \"old\"\n#~ msgstr \"alt\"\n");
