@@ -41,6 +41,8 @@ BEGIN_MESSAGE_MAP(CMainDialog, mfcCDialog)
     ON_BN_CLICKED(IDC_DETAILS, &CMainDialog::OnDetails)
     ON_BN_CLICKED(IDC_SETTINGS, &CMainDialog::OnSettings)
     ON_BN_CLICKED(IDC_MESSAGE, &CMainDialog::OnMessage)
+    ON_WM_SIZE()
+    ON_WM_GETMINMAXINFO()
 END_MESSAGE_MAP()
 
 CMainDialog::CMainDialog(CWnd* pParentWnd) : mfcCDialog(IDD_MAIN, pParentWnd) {}
@@ -65,7 +67,51 @@ BOOL CMainDialog::OnInitDialog()
     FillTabs();
     CreateTrackerView();
     ShowPicture();
+    CRect window, client;
+    GetWindowRect(&window);
+    GetClientRect(&client);
+    m_sizeSmallest = window.Size();
+    m_nClientHeight = client.Height();
     return TRUE;
+}
+
+// Taller, the list and the tracker view grow and the rows below them follow the bottom edge.
+void CMainDialog::OnSize(UINT nType, int cx, int cy)
+{
+    mfcCDialog::OnSize(nType, cx, cy);
+    const int dy = cy - m_nClientHeight;
+    if (m_nClientHeight == 0 || nType == SIZE_MINIMIZED || dy == 0)
+        return;
+    static const UINT growing[] = {IDC_PICTURES, IDC_COLOR_TABS};
+    static const UINT following[] = {IDC_PERIOD_TABS, IDC_PREVIOUS, IDC_NEXT,     IDC_ZOOM_IN, IDC_ZOOM_OUT,
+                                     IDC_ACTUAL_SIZE, IDC_DETAILS,  IDC_SETTINGS, IDC_MESSAGE, IDCANCEL};
+    for (UINT id : growing)
+    {
+        CRect rect;
+        GetDlgItem((int)id)->GetWindowRect(&rect);
+        ScreenToClient(&rect);
+        GetDlgItem((int)id)->SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height() + dy, SWP_NOMOVE | SWP_NOZORDER);
+    }
+    for (UINT id : following)
+    {
+        CRect rect;
+        GetDlgItem((int)id)->GetWindowRect(&rect);
+        ScreenToClient(&rect);
+        GetDlgItem((int)id)->SetWindowPos(nullptr, rect.left, rect.top + dy, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    }
+    const CRect page = TrackerPage();
+    m_trackerView.SetWindowPos(nullptr, page.left, page.top, page.Width(), page.Height(), SWP_NOZORDER);
+    m_nClientHeight = cy;
+    Invalidate();  // the size grip moves with the corner
+}
+
+void CMainDialog::OnGetMinMaxInfo(MINMAXINFO* lpMMI)
+{
+    mfcCDialog::OnGetMinMaxInfo(lpMMI);
+    if (m_sizeSmallest.cx == 0)
+        return;
+    lpMMI->ptMinTrackSize = CPoint(m_sizeSmallest.cx, m_sizeSmallest.cy);
+    lpMMI->ptMaxTrackSize.x = m_sizeSmallest.cx;
 }
 
 void CMainDialog::FillPictureList()
@@ -112,14 +158,19 @@ void CMainDialog::FillTabs()
 
 // Made after the translation walk: the view has no text of its own. It fills the page of the
 // coloured tab control.
-void CMainDialog::CreateTrackerView()
+CRect CMainDialog::TrackerPage()
 {
     CRect page;
     m_unitTabs.GetWindowRect(&page);
     ScreenToClient(&page);
     m_unitTabs.AdjustRect(FALSE, &page);
     page.DeflateRect(2, 2);
-    m_trackerView.CreateView(page, this, IDC_TRACKER_VIEW);
+    return page;
+}
+
+void CMainDialog::CreateTrackerView()
+{
+    m_trackerView.CreateView(TrackerPage(), this, IDC_TRACKER_VIEW);
     m_trackerView.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 

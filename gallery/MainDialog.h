@@ -29,6 +29,8 @@ protected:
     afx_msg void OnDetails();
     afx_msg void OnSettings();
     afx_msg void OnMessage();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -37,6 +39,7 @@ private:
     void FillPictureList();
     void FillTabs();
     void CreateTrackerView();
+    CRect TrackerPage();
     void ForwardToFrame(UINT nID);
 
     gallery::UnicodeButtons m_buttons;
@@ -46,4 +49,6 @@ private:
     CTrackerView m_trackerView;
     CFont m_font;
     int m_nPicture = 0;
+    CSize m_sizeSmallest;     // the window as the template makes it: it only grows taller
+    int m_nClientHeight = 0;  // laid out for this height
 };

@@ -288,6 +288,47 @@ void ExpectTooltip(const TourWindow& window)
     EXPECT_LT(std::abs(tipRect.top - pointer.y), 64) << "the tooltip is beside the pointer";
 }
 
+// The main dialog can be made taller: its size grip is drawn in the lower right corner and
+// answers the hit test, and a taller dialog keeps its bottom row at the bottom edge.
+void ExpectSizeGrip(HWND hDialog)
+{
+    RECT client;
+    ::GetClientRect(hDialog, &client);
+    const int cx = ::GetSystemMetrics(SM_CXHSCROLL), cy = ::GetSystemMetrics(SM_CYVSCROLL);
+    POINT corner = {client.right - cx, client.bottom - cy};
+    ::ClientToScreen(hDialog, &corner);
+    kivtest::PixelProbe pixels = ScreenPixels(hDialog);
+    RECT window;
+    ::GetWindowRect(hDialog, &window);
+    RECT square = {corner.x - window.left, corner.y - window.top, corner.x - window.left + cx,
+                   corner.y - window.top + cy};
+    RECT whole = {0, 0, pixels.Width(), pixels.Height()};
+    EXPECT_LT(pixels.Count(kWhite, square), cx * cy / 2) << "the grip is drawn in the corner";
+    EXPECT_GT(pixels.Count(kWhite, whole), pixels.Width() * pixels.Height() / 3) << "on the white dialog";
+    auto hitTest = [&](int x, int y) {
+        DWORD_PTR result = 0;
+        ::SendMessageTimeoutW(hDialog, WM_NCHITTEST, 0, MAKELPARAM(x, y), SMTO_ABORTIFHUNG, 5000, &result);
+        return (LRESULT)result;
+    };
+    EXPECT_EQ(HTBOTTOMRIGHT, hitTest(corner.x + cx / 2, corner.y + cy / 2));
+    EXPECT_EQ(HTCLIENT, hitTest((window.left + window.right) / 2, (window.top + window.bottom) / 2));
+
+    RECT close, list;
+    ::GetWindowRect(::GetDlgItem(hDialog, IDCANCEL), &close);
+    ::GetWindowRect(::GetDlgItem(hDialog, IDC_PICTURES), &list);
+    const int width = window.right - window.left, height = window.bottom - window.top;
+    ::SetWindowPos(hDialog, nullptr, 0, 0, width, height + 60, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT taller, closeAfter, listAfter;
+    ::GetWindowRect(hDialog, &taller);
+    ::GetWindowRect(::GetDlgItem(hDialog, IDCANCEL), &closeAfter);
+    ::GetWindowRect(::GetDlgItem(hDialog, IDC_PICTURES), &listAfter);
+    EXPECT_EQ(height + 60, taller.bottom - taller.top);
+    EXPECT_EQ(close.top + 60, closeAfter.top) << "the buttons follow the bottom edge";
+    EXPECT_EQ(list.bottom + 60, listAfter.bottom) << "the list grows";
+    // Back as it was, so that the placement the dialog keeps is the template's.
+    ::SetWindowPos(hDialog, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void ExpectPalette(const TourWindow& window)
 {
     if (window.name == "main-tooltip")
@@ -323,6 +364,8 @@ void ExpectPalette(const TourWindow& window)
     HWND hPeriodTabs = ::GetDlgItem(hDialog, IDC_PERIOD_TABS);
     EXPECT_GT(CountColour(hPeriodTabs, kSteelBlue), 100) << "the wide-text tabs' selected tab";
     EXPECT_GT(CountColour(hPeriodTabs, kPaleBlueGrey), 100) << "the wide-text tabs' other tabs";
+    if (window.name == "main")
+        ExpectSizeGrip(hDialog);  // last: it resizes the dialog
 }
 
 // Every caption measured in the windows' font; each one that needs more room than its control
