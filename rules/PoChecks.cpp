@@ -228,6 +228,15 @@ private:
         m_at += token.size();
         return true;
     }
+    struct Operator
+    {
+        int level;
+        char code;
+        int length;
+    };
+    static constexpr int kLevels = 6;
+    Operator PeekOperator();
+    static Value Apply(char code, Value l, Value r);
     bool Conditional(bool active, Value& value);
     bool Binary(int level, bool active, Value& value);
     bool Unary(bool active, Value& value);
@@ -253,45 +262,82 @@ bool PluralReader::Conditional(bool active, Value& value)
     return ok;
 }
 
-// Levels from the loosest: ||, &&, == !=, < > <= >=, + -, * / %.
+// The binary operator at the reading position: its level from the loosest (||, &&, == !=,
+// < > <= >=, + -, * / %), a code, and its length; level -1 when there is none.
+PluralReader::Operator PluralReader::PeekOperator()
+{
+    Skip();
+    const char c = m_at < m_text.size() ? m_text[m_at] : '\0';
+    const char d = m_at + 1 < m_text.size() ? m_text[m_at + 1] : '\0';
+    if ((c == '|' || c == '&') && d == c)
+        return {c == '|' ? 0 : 1, c, 2};
+    if ((c == '=' || c == '!') && d == '=')
+        return {2, c, 2};
+    if ((c == '<' || c == '>') && d == '=')
+        return {3, c == '<' ? 'l' : 'g', 2};
+    if (c == '<' || c == '>')
+        return {3, c, 1};
+    if (c == '+' || c == '-')
+        return {4, c, 1};
+    if (c == '*' || c == '/' || c == '%')
+        return {5, c, 1};
+    return {-1, '\0', 0};
+}
+
 bool PluralReader::Binary(int level, bool active, Value& value)
 {
-    static const std::vector<std::vector<std::string_view>> operators = {
-        {"||"}, {"&&"}, {"==", "!="}, {"<=", ">=", "<", ">"}, {"+", "-"}, {"*", "/", "%"}};
-    if (level == static_cast<int>(operators.size()))
+    if (level == kLevels)
         return Unary(active, value);
     if (!Binary(level + 1, active, value))
         return false;
-    for (;;)
+    for (Operator op = PeekOperator(); op.level == level; op = PeekOperator())
     {
-        auto op = std::find_if(operators[level].begin(), operators[level].end(),
-                               [&](std::string_view token) { return Accept(token); });
-        if (op == operators[level].end())
-            return true;
-        bool rightActive = active && !(*op == "||" && value != 0) && !(*op == "&&" && value == 0);
+        m_at += op.length;
+        bool rightActive = active && !(op.code == '|' && value != 0) && !(op.code == '&' && value == 0);
         Value right = 0;
         if (!Binary(level + 1, rightActive, right))
             return false;
-        if ((*op == "/" || *op == "%") && right == 0)
+        if ((op.code == '/' || op.code == '%') && right == 0)
         {
             if (rightActive)
                 return false;
             right = 1;
         }
-        Value l = value;
-        value = *op == "||"   ? (l || right)
-                : *op == "&&" ? (l && right)
-                : *op == "==" ? l == right
-                : *op == "!=" ? l != right
-                : *op == "<=" ? l <= right
-                : *op == ">=" ? l >= right
-                : *op == "<"  ? l < right
-                : *op == ">"  ? l > right
-                : *op == "+"  ? l + right
-                : *op == "-"  ? l - right
-                : *op == "*"  ? l * right
-                : *op == "/"  ? l / right
-                              : l % right;
+        value = Apply(op.code, value, right);
+    }
+    return true;
+}
+
+PluralReader::Value PluralReader::Apply(char code, Value l, Value r)
+{
+    switch (code)
+    {
+    case '|':
+        return l || r;
+    case '&':
+        return l && r;
+    case '=':
+        return l == r;
+    case '!':
+        return l != r;
+    case 'l':
+        return l <= r;
+    case 'g':
+        return l >= r;
+    case '<':
+        return l < r;
+    case '>':
+        return l > r;
+    case '+':
+        return l + r;
+    case '-':
+        return l - r;
+    case '*':
+        return l * r;
+    case '/':
+        return l / r;
+    default:
+        return l % r;
     }
 }
 
