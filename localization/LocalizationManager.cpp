@@ -4,11 +4,15 @@
 #include "KivSiblings.h"
 #include "LocalizationKeys.h"
 #include "StoreSession.h"
+#include "TranslationIndex.h"
 
+#include <cstring>
 #include <iterator>
 
+using kiv::localization::IndexText;
 using kiv::localization::KeyText;
 using kiv::localization::StoreSession;
+using kiv::localization::TranslationIndex;
 
 namespace {
 
@@ -86,6 +90,11 @@ private:
     CStringW m_wide[0x80];
 };
 
+IndexText TextOf(const CString& text)
+{
+    return {text.GetString(), (std::size_t)text.GetLength()};
+}
+
 }  // namespace
 
 LocalizationManager* LocalizationManager::m_SingletonInstance = nullptr;
@@ -107,7 +116,8 @@ void LocalizationManager::Dispose()
     // m_SingletonInstance keeps the freed address on purpose: Dispose is the host's last call.
 }
 
-LocalizationManager::LocalizationManager() : m_pTranslationCache(new CMapStringToPtr(kBlockSize))
+LocalizationManager::LocalizationManager()
+    : m_pTranslationCache(new CMapStringToPtr(kBlockSize)), m_pIndex(new TranslationIndex(m_pTranslationCache))
 {
     m_pTranslationCache->InitHashTable(kSectionTableSize);
     LoadTranslations();
@@ -120,11 +130,17 @@ LocalizationManager::~LocalizationManager()
         ClearTranslationCache();
         delete m_pTranslationCache;
     }
+    TranslationIndex::Release(m_pIndex);
 }
 
 LocalizationManager& LocalizationManager::operator=(const LocalizationManager& other)
 {
     m_pTranslationCache = other.m_pTranslationCache;
+    // The index goes with the cache, so a text either manager records is found by both.
+    if (other.m_pIndex != nullptr)
+        other.m_pIndex->AddRef();
+    TranslationIndex::Release(m_pIndex);
+    m_pIndex = other.m_pIndex;
     return *this;
 }
 
@@ -176,18 +192,77 @@ void LocalizationManager::ClearTranslationCache()
         delete keyMap;
     });
     m_pTranslationCache->RemoveAll();
+    if (IndexCovers())
+        m_pIndex->Reset(nullptr);  // both callers delete the section map next
 }
 
-TranslationEntry* LocalizationManager::FindTrimmedEntry(LPCSTR key, LPCSTR section)
+bool LocalizationManager::IndexCovers() const
+{
+    return m_pIndex != nullptr && m_pTranslationCache != nullptr && m_pIndex->Cache() == m_pTranslationCache;
+}
+
+TranslationEntry* LocalizationManager::FindTrimmedEntry(const CString& key, const CString& section,
+                                                        kiv::localization::IndexSlot** where)
+{
+    if (m_pTranslationCache == nullptr)
+        return nullptr;
+    TranslationEntry* found = nullptr;
+    if (IndexCovers())
+    {
+        IndexText sectionText = TextOf(section), keyText = TextOf(key);
+        TranslationIndex::Slot* slot =
+            m_pIndex->Find(TranslationIndex::Hash(sectionText, keyText), sectionText, keyText);
+        found = slot != nullptr ? slot->entry : FindInMaps(key, section);
+        if (where != nullptr)
+            *where = slot;
+    }
+    else
+        found = FindInMaps(key, section);
+    if (found != nullptr)
+        found->translatedText.Trim();  // the trimmed text stays in the cache
+    return found;
+}
+
+// Also finds an entry that reached the maps other than through this manager.
+TranslationEntry* LocalizationManager::FindInMaps(const CString& key, const CString& section)
 {
     void* keys = nullptr;
     void* entry = nullptr;
-    if (m_pTranslationCache == nullptr || !m_pTranslationCache->Lookup(section, keys) ||
-        !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) || entry == nullptr)
+    if (!m_pTranslationCache->Lookup(section, keys) || !static_cast<CMapStringToPtr*>(keys)->Lookup(key, entry) ||
+        entry == nullptr)
         return nullptr;
-    auto* found = static_cast<TranslationEntry*>(entry);
-    found->translatedText.Trim();  // the trimmed text stays in the cache
-    return found;
+    if (IndexCovers())
+    {
+        LPCSTR sectionText = nullptr;
+        m_pTranslationCache->LookupKey(section, sectionText);
+        IndexEntry(sectionText, static_cast<CMapStringToPtr*>(keys), key);
+    }
+    return static_cast<TranslationEntry*>(entry);
+}
+
+// Points the index at the entry's cell in keys, adding the entry when it is new to the index.
+void LocalizationManager::IndexEntry(const char* section, CMapStringToPtr* keys, const CString& key)
+{
+    void** cell = &(*keys)[key];
+    LPCSTR ownKey = nullptr;
+    keys->LookupKey(key, ownKey);
+    IndexText sectionText{section, std::strlen(section)}, keyText = TextOf(key);
+    std::uint64_t hash = TranslationIndex::Hash(sectionText, keyText);
+    auto* entry = static_cast<TranslationEntry*>(*cell);
+    if (TranslationIndex::Slot* slot = m_pIndex->Find(hash, sectionText, keyText))
+    {
+        slot->entry = entry;
+        slot->cell = cell;
+        slot->longKey = ownKey;
+    }
+    else
+        m_pIndex->Add(hash, section, keyText, ownKey, entry, cell);
+}
+
+// A key map moved into a larger one: every cell of it has moved.
+void LocalizationManager::IndexKeyMap(const char* section, CMapStringToPtr* keys)
+{
+    ForEachAssoc(*keys, [&](const CString& key, void*) { IndexEntry(section, keys, key); });
 }
 
 BOOL LocalizationManager::HasTranslation(const CString& key, const CString& section)
@@ -206,11 +281,36 @@ CStringW LocalizationManager::LookupTranslation(const CString& key, const CStrin
     return CStringW(entry->defaultText);
 }
 
+void LocalizationManager::ReplaceEntry(kiv::localization::IndexSlot& slot, const CString& defaultText,
+                                       const CStringW& translatedText)
+{
+    auto* entry = new TranslationEntry;
+    entry->defaultText = defaultText;
+    entry->translatedText = translatedText;
+    // The entry it replaces is overwritten, not freed; that loss is accepted.
+    *slot.cell = entry;
+    slot.entry = entry;
+}
+
 void LocalizationManager::CacheTranslation(const CString& defaultText, const CStringW& translatedText,
                                            const CString& key, const CString& section)
 {
     if (m_pTranslationCache == nullptr)
         return;
+    if (IndexCovers())
+    {
+        IndexText sectionText = TextOf(section), keyText = TextOf(key);
+        TranslationIndex::Slot* slot =
+            m_pIndex->Find(TranslationIndex::Hash(sectionText, keyText), sectionText, keyText);
+        if (slot != nullptr)
+        {
+            ReplaceEntry(*slot, defaultText, translatedText);
+            return;
+        }
+    }
+    auto* entry = new TranslationEntry;
+    entry->defaultText = defaultText;
+    entry->translatedText = translatedText;
     void* keys = nullptr;
     if (!m_pTranslationCache->Lookup(section, keys))
     {
@@ -218,14 +318,19 @@ void LocalizationManager::CacheTranslation(const CString& defaultText, const CSt
         m_pTranslationCache->SetAt(section, keys);
     }
     auto* keyMap = static_cast<CMapStringToPtr*>(keys);
-    auto* entry = new TranslationEntry;
-    entry->defaultText = defaultText;
-    entry->translatedText = translatedText;
     // An entry already under the key is overwritten, not freed; that loss is accepted.
     keyMap->SetAt(key, entry);
     CMapStringToPtr* grown = GrowIfCrowded(keyMap);
     if (grown != keyMap)
         m_pTranslationCache->SetAt(section, grown);
+    if (!IndexCovers())
+        return;
+    LPCSTR sectionText = nullptr;
+    m_pTranslationCache->LookupKey(section, sectionText);
+    if (grown != keyMap)
+        IndexKeyMap(sectionText, grown);
+    else
+        IndexEntry(sectionText, grown, key);
 }
 
 CString LocalizationManager::GetTranslation(CString defaultText, CString key, CString section)
@@ -260,12 +365,19 @@ CString LocalizationManager::GetTranslation(CString defaultText, int key, int se
 
 CStringW LocalizationManager::GetWideTranslation(CString defaultText, CString key, CString section)
 {
-    // One walk of the two maps answers both whether a translation exists and what it is.
-    TranslationEntry* entry = FindTrimmedEntry(key, section);
+    // One lookup answers both whether a translation exists and what it is.
+    kiv::localization::IndexSlot* slot = nullptr;
+    TranslationEntry* entry = FindTrimmedEntry(key, section, &slot);
     if (entry != nullptr && !entry->translatedText.IsEmpty())
         return entry->translatedText;
     if (defaultText.IsEmpty())
         return CStringW();  // an empty default is never recorded by this overload
+    if (slot != nullptr)
+    {
+        // A text asked for again: its place is known and its widening kept.
+        ReplaceEntry(*slot, defaultText, CStringW());
+        return TranslationIndex::Widened(*slot, defaultText);
+    }
     CacheTranslation(defaultText, CStringW(), key, section);
     return CStringW(defaultText);
 }

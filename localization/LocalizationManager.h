@@ -6,6 +6,11 @@
 #include <afxwin.h>
 #include <afxcoll.h>
 
+namespace kiv::localization {
+class TranslationIndex;
+struct IndexSlot;
+}  // namespace kiv::localization
+
 // One cached text: the program's own text and its translation (empty when none is known).
 struct TranslationEntry
 {
@@ -79,5 +84,17 @@ private:
     void StoreTranslations();
 
     // The cached entry of (section, key) with its translation trimmed in place, or null.
-    TranslationEntry* FindTrimmedEntry(LPCSTR key, LPCSTR section);
+    // where, when given, receives the entry's slot of the index, or null.
+    TranslationEntry* FindTrimmedEntry(const CString& key, const CString& section,
+                                       kiv::localization::IndexSlot** where = nullptr);
+    static void ReplaceEntry(kiv::localization::IndexSlot& slot, const CString& defaultText,
+                             const CStringW& translatedText);
+    // Slow paths: the maps walked, and the entry's place in them made known to the index.
+    TranslationEntry* FindInMaps(const CString& key, const CString& section);
+    void IndexKeyMap(const char* section, CMapStringToPtr* keys);
+    void IndexEntry(const char* section, CMapStringToPtr* keys, const CString& key);
+    bool IndexCovers() const;
+
+    // The lookups' table over the cache above; shared by managers that share the cache.
+    kiv::localization::TranslationIndex* m_pIndex;
 };

@@ -236,6 +236,29 @@ TEST_F(LocalizationManager, AssignmentSharesTheCache)
     other.Cache() = own;  // its own cache back, so the shared one is destroyed once
 }
 
+TEST_F(LocalizationManager, TextAskedAgainWithAnotherDefaultAnswersThatDefault)
+{
+    Manager* m = Manager::Get();
+    EXPECT_STREQ(L"First", m->GetWideTranslation("First", "1", "s"));
+    EXPECT_STREQ(L"First", m->GetWideTranslation("First", "1", "s"));
+    EXPECT_STREQ(L"Second", m->GetWideTranslation("Second", "1", "s"));
+    EXPECT_STREQ("Second", CachedEntry(m, "s", "1")->defaultText);
+    EXPECT_EQ(1, CachedEntryCount(m));
+}
+
+TEST_F(LocalizationManager, EntryADerivedClassPutIntoTheCacheIsFound)
+{
+    TestManager manager;
+    manager.SetTranslation("A", L"B", "1", "s");
+    void* keys = nullptr;
+    ASSERT_TRUE(manager.Cache()->Lookup("s", keys));
+    static_cast<CMapStringToPtr*>(keys)->SetAt("2", new TranslationEntry{"C", L"D"});
+    EXPECT_STREQ(L"D", manager.GetWideTranslation("C", "2", "s"));
+    EXPECT_STREQ(L"B", manager.GetWideTranslation("A", "1", "s"));
+    manager.SetTranslation("C", L"E", "2", "s");
+    EXPECT_STREQ(L"E", manager.GetWideTranslation("C", "2", "s"));
+}
+
 TEST_F(LocalizationManager, SavingDestroysTheCacheOnce)
 {
     TestManager manager;

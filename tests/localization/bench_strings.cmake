@@ -1,0 +1,15 @@
+# Writes OUT, a resource script with a string table of COUNT texts: id n + 1 holds the
+# translation the localization benchmark caches for its text number n.
+file(WRITE "${OUT}" "STRINGTABLE\nBEGIN\n")
+math(EXPR last "${COUNT} - 1")
+set(lines "")
+foreach(n RANGE 0 ${last})
+  math(EXPR id "${n} + 1")
+  string(APPEND lines "  ${id} L\"\\334bersetzung Text ${n}\"\n")
+  math(EXPR flush "${id} % 1000")
+  if(flush EQUAL 0 OR n EQUAL last)
+    file(APPEND "${OUT}" "${lines}")
+    set(lines "")
+  endif()
+endforeach()
+file(APPEND "${OUT}" "END\n")
