@@ -1032,7 +1032,7 @@ TEST_F(KivStore, KilledWhileSavingLeavesAWholeFileEveryTime)
     int checked = 0, lost = 0, torn = 0;
     for (int round = 0; round < kills; ++round)
     {
-        KillSaverAfter(300 + (DWORD)(std::rand() % 400));
+        KillSaverAfter(300 + (DWORD)(std::rand() % 1200));
         Load();
         CStringW** records = Strings("de");
         ASSERT_NE(nullptr, records) << "round " << round << ": the file does not read";
