@@ -760,7 +760,7 @@ TEST_F(KivStore, NothingChangedNothingWritten)
 TEST_F(KivStore, ChangesAreWrittenWhenTheProcessEndsWithoutReleasingTheLibrary)
 {
     WriteFile("de.po", kGerman);
-    std::string command = "\"" + ProgramFolder() + "kivstore_exit_helper.exe\" Apply Anwenden de 200";
+    std::string command = "\"" + ProgramFolder() + "kivstore_save_helper.exe\" Apply Anwenden de 200 1 exit";
     STARTUPINFOA startup = {};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION process = {};
