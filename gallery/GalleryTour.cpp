@@ -291,6 +291,7 @@ CString CGalleryTour::CutLines(const Part& part) const
     CString lines;
     HDC hScreen = ::GetDC(nullptr);
     const int dpi = ::GetDeviceCaps(hScreen, LOGPIXELSX);
+    ::ReleaseDC(nullptr, hScreen);
     for (HWND h = ::GetWindow(part.hWnd, GW_CHILD); h != nullptr; h = ::GetWindow(h, GW_HWNDNEXT))
     {
         char className[32] = {};
@@ -299,25 +300,16 @@ CString CGalleryTour::CutLines(const Part& part) const
         if ((lstrcmpiA(className, "Static") != 0 && lstrcmpiA(className, "Button") != 0) || !::IsWindowVisible(h) ||
             id <= 0 || id >= IDC_VALUE_FIRST)
             continue;
-        CStringW text = ShownText(h, part.section);
-        text.Remove(L'&');
-        if (text.IsEmpty())
-            continue;
-        HGDIOBJ hOld = ::SelectObject(hScreen, (HFONT)::SendMessageA(h, WM_GETFONT, 0, 0));
-        SIZE size = {};
-        ::GetTextExtentPoint32W(hScreen, text, text.GetLength(), &size);
-        ::SelectObject(hScreen, hOld);
-        CRect rect;
-        ::GetWindowRect(h, &rect);
-        const int room = rect.Width() - TextMargin(h, dpi);
-        if (size.cx <= room)
-            continue;
-        CString line;
-        line.Format("cut %d %s %d %d %d %d %d %d\n", id, (LPCSTR)part.section, rect.left, rect.top, rect.Width(),
-                    rect.Height(), (int)size.cx, room);
-        lines += line;
+        TourItem control;
+        control.id = id;
+        control.section = part.section;
+        control.text = ShownText(h, part.section);
+        ::GetWindowRect(h, &control.rect);
+        control.needed = TextWidth(h, control.text);
+        control.room = control.rect.Width() - TextMargin(h, dpi);
+        if (!control.text.IsEmpty())
+            lines += ItemCutLine(control);
     }
-    ::ReleaseDC(nullptr, hScreen);
     return lines;
 }
 

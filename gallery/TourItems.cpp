@@ -24,20 +24,6 @@ CString Decimal(int value)
     return text;
 }
 
-// Width of the text in the control's own font.
-int TextWidth(HWND hControl, const CStringW& text)
-{
-    CStringW shown = text;
-    shown.Remove(L'&');
-    HDC hScreen = ::GetDC(nullptr);
-    HGDIOBJ hOld = ::SelectObject(hScreen, (HFONT)::SendMessageA(hControl, WM_GETFONT, 0, 0));
-    SIZE size = {};
-    ::GetTextExtentPoint32W(hScreen, shown, shown.GetLength(), &size);
-    ::SelectObject(hScreen, hOld);
-    ::ReleaseDC(nullptr, hScreen);
-    return size.cx;
-}
-
 int Scaled(int pixels)
 {
     HDC hScreen = ::GetDC(nullptr);
@@ -135,6 +121,19 @@ void AddMenuItems(HMENU hMenu, const CString& section, const CString& barPositio
 }
 
 }  // namespace
+
+int TextWidth(HWND hControl, const CStringW& text)
+{
+    CStringW shown = text;
+    shown.Remove(L'&');
+    HDC hScreen = ::GetDC(nullptr);
+    HGDIOBJ hOld = ::SelectObject(hScreen, (HFONT)::SendMessageA(hControl, WM_GETFONT, 0, 0));
+    SIZE size = {};
+    ::GetTextExtentPoint32W(hScreen, shown, shown.GetLength(), &size);
+    ::SelectObject(hScreen, hOld);
+    ::ReleaseDC(nullptr, hScreen);
+    return size.cx;
+}
 
 std::vector<TourItem> ControlItems(HWND hWindow, const CString& section)
 {

@@ -19,11 +19,14 @@ struct TourItem
     CStringW text;
 };
 
+// Width of the text in the control's own font, without its hot-key ampersands.
+int TextWidth(HWND hControl, const CStringW& text);
 // Items of the combo boxes, tab controls and lists among the window's children.
 std::vector<TourItem> ControlItems(HWND hWindow, const CString& section);
 // Items of the window's menu bar and of its sub-menus, from their records.
 std::vector<TourItem> MenuItems(HWND hFrame, const CString& section);
 // "item <kind> <id> <section> <key> <left> <top> <width> <height> <needed> <room> <text>", the
-// text in UTF-8; and a "cut" line as the controls have one when the text does not fit.
+// text in UTF-8; and, when the text does not fit, "cut <id> <section> <left> <top> <width>
+// <height> <needed> <room>" (also for a control's own text).
 CString ItemLine(const TourItem& item);
 CString ItemCutLine(const TourItem& item);
