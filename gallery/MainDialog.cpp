@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 namespace {
 
 struct Picture
@@ -51,6 +53,11 @@ CMainDialog::~CMainDialog() = default;
 
 BOOL CMainDialog::OnInitDialog()
 {
+    // The template's size, before the dialog class restores a remembered placement, which may
+    // come from another screen resolution and be smaller.
+    CRect window, client;
+    GetWindowRect(&window);
+    GetClientRect(&client);
     // The buttons with words draw them as wide text; the five with signs stay colour buttons.
     gallery::AttachUnicodeButtons(this, m_buttons, IDC_PREVIOUS, IDC_ACTUAL_SIZE);
     m_pictures.SubclassDlgItem(IDC_PICTURES, this);
@@ -67,11 +74,15 @@ BOOL CMainDialog::OnInitDialog()
     FillTabs();
     CreateTrackerView();
     ShowPicture();
-    CRect window, client;
-    GetWindowRect(&window);
-    GetClientRect(&client);
     m_sizeSmallest = window.Size();
     m_nClientHeight = client.Height();
+    CRect placed;
+    GetWindowRect(&placed);
+    SetWindowPos(nullptr, 0, 0, m_sizeSmallest.cx, std::max<int>(placed.Height(), m_sizeSmallest.cy),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    GetClientRect(&client);
+    if (client.Height() != m_nClientHeight)
+        OnSize(SIZE_RESTORED, client.Width(), client.Height());  // laid out for the template so far
     return TRUE;
 }
 
