@@ -1,6 +1,7 @@
 #include "LanguageStore.h"
 
 #include <cstring>
+#include <cwchar>
 
 #include "StoreFiles.h"
 #include "StringBlock.h"
@@ -41,6 +42,36 @@ std::string EchoKey(std::string_view defaultText, std::string_view translation, 
     return joined;
 }
 
+// Control ids repeat from dialog to dialog: a record's key shares the string of the last equal key
+// that hashed to the same place.
+constexpr std::size_t kKeyShares = 1024;
+
+// Of a section and key in UTF-16 (FNV-1a), for the index of a shrunk language's records.
+std::size_t RecordHash(const wchar_t* section, std::size_t sectionLength, const wchar_t* key,
+                       std::size_t keyLength) noexcept
+{
+    std::uint32_t hash = 2166136261u;
+    auto add = [&hash](const wchar_t* units, std::size_t length) {
+        for (std::size_t i = 0; i < length; ++i)
+            hash = (hash ^ units[i]) * 16777619u;
+    };
+    add(section, sectionLength);
+    hash = (hash ^ L'\n') * 16777619u;
+    add(key, keyLength);
+    return hash;
+}
+
+// The length of a table's string, which its header in front of the characters holds.
+int HeldLength(const wchar_t* characters) noexcept
+{
+    return (reinterpret_cast<const CStringData*>(characters) - 1)->nDataLength;
+}
+
+bool SameText(const wchar_t* held, const std::wstring& text) noexcept
+{
+    return (std::size_t)HeldLength(held) == text.size() && std::wmemcmp(held, text.data(), text.size()) == 0;
+}
+
 std::string EchoOf(const PoRecord& record)
 {
     return EchoKey(FirstUnitEcho(record.defaultText, true), FirstUnitEcho(record.translation, false),
@@ -63,12 +94,18 @@ std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::
     auto table = std::make_unique<RecordTable>();
     table->strings.reset(new CStringW[records.size() * kRecordFields]);
     table->slots.assign(records.size() + 1, nullptr);
+    std::vector<std::size_t> keyShares(kKeyShares, records.size());
     for (std::size_t i = 0; i < records.size(); ++i)
     {
         CStringW* record = &table->strings[i * kRecordFields];
         table->block.Assign(record[kRecordDefaultText], records[i].defaultText);
         table->block.Assign(record[kRecordTranslation], records[i].translation);
-        table->block.Assign(record[kRecordKey], records[i].key);
+        std::size_t& share = keyShares[std::hash<std::string_view>()(records[i].key) % kKeyShares];
+        if (share < i && records[share].key == records[i].key)
+            record[kRecordKey] = table->slots[share][kRecordKey];
+        else
+            table->block.Assign(record[kRecordKey], records[i].key);
+        share = i;
         // Records of one section mostly follow each other and share its string.
         if (i > 0 && records[i].section == records[i - 1].section)
             record[kRecordSection] = table->slots[i - 1][kRecordSection];
@@ -96,6 +133,15 @@ struct LanguageStore::Language
     // What a caller that keeps one unit of each field of the records hands back; made on demand.
     std::unordered_set<std::string> echoes;
     bool echoesCurrent = false;
+    // Once a language nobody changed has handed out its table, the catalog is let go (a table and
+    // a catalog of every record would hold several times the file). Its records are then looked
+    // up through the table's strings, which no holder of the table can change (a holder that writes
+    // copies first): section, key and translation of each record, and an index of them by hash of
+    // section and key (record number + 1, open addressing) made on first use. A change reads the
+    // file again, as another program may have written it by then.
+    bool shrunk = false;
+    std::vector<const wchar_t*> recordTexts;
+    std::vector<std::uint32_t> recordIndex;
 };
 
 LanguageStore::LanguageStore(std::string folder) : m_folder(std::move(folder))
@@ -143,9 +189,10 @@ CStringW** LanguageStore::Strings(const char* id)
         return nullptr;
     if (!language->tableCurrent)
     {
-        language->tables.push_back(
-            MakeTable(language->readable ? language->catalog.Records() : std::vector<PoRecord>()));
+        language->tables.push_back(MakeTable(Whole(*language) ? language->catalog.Records() : std::vector<PoRecord>()));
         language->tableCurrent = true;
+        if (language->readable && language->changes.empty() && language->mergedSideFiles.empty())
+            Shrink(*language);
     }
     return language->tables.back()->slots.data();
 }
@@ -155,6 +202,17 @@ int LanguageStore::Get(const char* id, const std::string& context, CStringW* tex
     Language* language = Loaded(id);
     if (!language)
         return kStoreUnknownLanguage;
+    if (language->shrunk)
+    {
+        const wchar_t* translation = FindRecord(*language, context);
+        if (!translation)
+            return kStoreNotHeld;
+        if (!text)
+            return kStoreRefusedText;
+        // A string of its own, as from the catalog: a copy would keep the table's block alive.
+        *text = CStringW(translation, HeldLength(translation));
+        return kStoreOk;
+    }
     // A file that cannot be read holds nothing; its strings are asked for and set aside again.
     const PoEntry* entry = language->readable ? language->catalog.Find(context) : nullptr;
     if (!entry)
@@ -172,7 +230,7 @@ int LanguageStore::Insert(const char* id, const std::string& context, const std:
     if (!language)
         return kStoreUnknownLanguage;
     PoChange change{PoChange::kInsert, context, msgid, msgstr};
-    if (!language->readable)
+    if (!Whole(*language))
     {
         language->changes.push_back(std::move(change));
         return kStoreSetAside;
@@ -198,7 +256,7 @@ int LanguageStore::Update(const char* id, const std::string& context, const std:
     if (!language)
         return kStoreUnknownLanguage;
     PoChange change{PoChange::kUpdate, context, std::string(), msgstr};
-    if (!language->readable)
+    if (!Whole(*language))
     {
         language->changes.push_back(std::move(change));
         return kStoreSetAside;
@@ -267,9 +325,77 @@ void LanguageStore::Load(Language& language)
     }
 }
 
+void LanguageStore::Shrink(Language& language)
+{
+    const std::vector<CStringW*>& slots = language.tables.back()->slots;
+    language.recordTexts.resize(3 * (slots.size() - 1));
+    for (std::size_t i = 0; i + 1 < slots.size(); ++i)
+    {
+        language.recordTexts[3 * i] = slots[i][kRecordSection].GetString();
+        language.recordTexts[3 * i + 1] = slots[i][kRecordKey].GetString();
+        language.recordTexts[3 * i + 2] = slots[i][kRecordTranslation].GetString();
+    }
+    language.catalog = PoCatalog();
+    language.shrunk = true;
+}
+
+bool LanguageStore::Whole(Language& language)
+{
+    if (language.shrunk)
+    {
+        language.shrunk = false;
+        language.recordTexts = std::vector<const wchar_t*>();
+        language.recordIndex = std::vector<std::uint32_t>();
+        language.tableCurrent = false;
+        language.echoesCurrent = false;
+        Load(language);
+    }
+    return language.readable;
+}
+
+const wchar_t* LanguageStore::FindRecord(Language& language, std::string_view context)
+{
+    const std::vector<const wchar_t*>& texts = language.recordTexts;
+    const std::size_t records = texts.size() / 3;
+    if (language.recordIndex.empty())
+    {
+        std::size_t size = 16;
+        while (size < 2 * records)
+            size *= 2;
+        language.recordIndex.assign(size, 0);
+        for (std::size_t i = 0; i < records; ++i)
+        {
+            std::size_t slot =
+                RecordHash(texts[3 * i], HeldLength(texts[3 * i]), texts[3 * i + 1], HeldLength(texts[3 * i + 1]));
+            for (slot &= size - 1; language.recordIndex[slot] != 0; slot = (slot + 1) & (size - 1))
+                ;
+            language.recordIndex[slot] = (std::uint32_t)(i + 1);
+        }
+    }
+    // A context is UTF-8; the section ends before its first line feed.
+    std::size_t split = context.find('\n');
+    if (split == std::string_view::npos || !kiv::rules::IsValidUtf8(context))
+        return nullptr;
+    std::wstring section(kiv::rules::Utf16Length(context.substr(0, split)), L'\0');
+    std::wstring key(kiv::rules::Utf16Length(context.substr(split + 1)), L'\0');
+    kiv::rules::DecodeUtf8(context.substr(0, split), section.data());
+    kiv::rules::DecodeUtf8(context.substr(split + 1), key.data());
+    const std::size_t mask = language.recordIndex.size() - 1;
+    for (std::size_t slot = RecordHash(section.data(), section.size(), key.data(), key.size()) & mask;;
+         slot = (slot + 1) & mask)
+    {
+        std::uint32_t record = language.recordIndex[slot];
+        if (record == 0)
+            return nullptr;
+        const wchar_t* const* fields = &texts[3 * (record - 1)];
+        if (SameText(fields[0], section) && SameText(fields[1], key))
+            return fields[2];
+    }
+}
+
 std::vector<std::string> LanguageStore::NamesOf(Language& language)
 {
-    if (language.loaded && language.readable)
+    if (language.loaded && language.readable && !language.shrunk)
         return language.catalog.LanguageNames();
     // Only the header is read: naming a language must not cost reading all of its strings.
     std::string bytes, header;
@@ -280,7 +406,7 @@ std::vector<std::string> LanguageStore::NamesOf(Language& language)
 
 void LanguageStore::FlushLanguage(Language& language)
 {
-    if (!language.readable)
+    if (!Whole(language))
     {
         SetAside(language);
         return;

@@ -8,6 +8,7 @@
 #include <memory>
 #include <unordered_set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class LanguageStore
@@ -41,6 +42,13 @@ private:
     Language* Find(const char* id);
     Language* Loaded(const char* id);
     void Load(Language& language);
+    // Lets the catalog go once the language's table is handed out and nothing changed.
+    static void Shrink(Language& language);
+    // Reads a language that let its catalog go again, before it is changed; false when the
+    // language cannot be read.
+    bool Whole(Language& language);
+    // The translation that a let-go language's table holds for a context, or null.
+    static const wchar_t* FindRecord(Language& language, std::string_view context);
     std::vector<std::string> NamesOf(Language& language);
     void FlushLanguage(Language& language);
     bool SetAside(Language& language);

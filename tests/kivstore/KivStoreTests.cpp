@@ -738,6 +738,86 @@ TEST_F(KivStore, ChangesMadeByAnotherProgramMeanwhileAreKept)
     EXPECT_EQ(edited + Entry("100", "3", "Apply", ""), ReadFile("de.po"));
 }
 
+// Once its table is handed out, a language no longer holds its file's entries beside the table:
+// it answers from the table's own strings, whatever the holder of the table does with it.
+TEST_F(KivStore, AfterTheTableIsTakenLookupsAnswerFromItsOwnStrings)
+{
+    const std::string menu = "Men\xC3\xBC";  // a section in UTF-8, asked for in ANSI
+    WriteFile("de.po", kGerman +
+                           Entry("200", "1", "Close",
+                                 "Schlie\xC3\x9F"
+                                 "en") +
+                           Entry(menu, "1", "Help", "Hilfe") + Entry("300", "1", "Undo", "") +
+                           "\n#, fuzzy\nmsgctxt \"300\\n2\"\nmsgid \"Redo\"\nmsgstr \"Wiederholen\"\n");
+    Load();
+    CStringW** table = Strings("de");
+    ASSERT_NE(nullptr, table);
+    // Equal keys of several sections may share one string; writing to one leaves the others.
+    ASSERT_STREQ(L"1", table[0][2]);
+    ASSERT_STREQ(L"1", table[3][2]);
+    table[0][2] += L"0";
+    table[3][2].MakeUpper();
+    table[3][1] = L"changed";
+    EXPECT_STREQ(L"1", table[4][2]);
+    EXPECT_STREQ(L"In Ordnung", Held("de", "100", "1"));
+    EXPECT_STREQ(L"Schlie\x00DF"
+                 L"en",
+                 Held("de", "200", "1"));
+    EXPECT_STREQ(L"Hilfe", Held("de", "Men\xFC", "1"));
+    EXPECT_STREQ(L"", Held("de", "300", "1"));
+    EXPECT_STREQ(L"", Held("de", "300", "2"));  // fuzzy: no translation yet
+    CStringW text(L"untouched");
+    EXPECT_EQ(kStoreNotHeld, Get("de", "100", "10", &text));
+    EXPECT_EQ(kStoreNotHeld, Get("de", "10", "01", &text));
+    EXPECT_EQ(kStoreNotHeld, Get("de", "\xFF", "1", &text));
+    EXPECT_STREQ(L"untouched", text);
+    EXPECT_EQ(kStoreRefusedText, Get("de", "100", "1", nullptr));
+    EXPECT_STREQ("de", Id("German"));
+    EXPECT_EQ(table, Strings("de"));  // the same table while nothing changed
+    Unload();
+    EXPECT_EQ(kGerman +
+                  Entry("200", "1", "Close",
+                        "Schlie\xC3\x9F"
+                        "en") +
+                  Entry(menu, "1", "Help", "Hilfe") + Entry("300", "1", "Undo", "") +
+                  "\n#, fuzzy\nmsgctxt \"300\\n2\"\nmsgid \"Redo\"\nmsgstr \"Wiederholen\"\n",
+              ReadFile("de.po"));
+}
+
+// The first change after the table was handed out reads the file again: what another program
+// wrote meanwhile is the file the change is made in.
+TEST_F(KivStore, AChangeAfterTheTableIsTakenIsMadeInTheFileAsItIsThen)
+{
+    WriteFile("de.po", kGerman);
+    Load();
+    ASSERT_NE(nullptr, Strings("de"));
+    std::string edited = kGerman + Entry("100", "3", "Apply", "Anwenden");
+    edited.replace(edited.find("Abbrechen"), 9, "Verwerfen");
+    WriteFile("de.po", edited);
+    EXPECT_EQ(kStoreAlreadyHeld, Insert("Apply", L"", "de", "100", "3"));
+    EXPECT_EQ(kStoreOk, Insert("Help", L"Hilfe", "de", "100", "4"));
+    EXPECT_EQ(kStoreOk, Update(L"Gut", "de", "100", "1"));
+    EXPECT_STREQ(L"Verwerfen", Held("de", "100", "2"));
+    CStringW** table = Strings("de");
+    ASSERT_NE(nullptr, table);
+    EXPECT_STREQ(L"Hilfe", table[4][1]);
+    Unload();
+    EXPECT_EQ(Replaced(edited, "In Ordnung", "Gut") + Entry("100", "4", "Help", "Hilfe"), ReadFile("de.po"));
+}
+
+// A file that can no longer be read when the first change comes: the change waits beside it.
+TEST_F(KivStore, AChangeAfterTheTableIsTakenWaitsBesideAFileThatCannotBeReadAnyMore)
+{
+    WriteFile("de.po", kGerman);
+    Load();
+    ASSERT_NE(nullptr, Strings("de"));
+    WriteFile("de.po", "msgid \"broken");
+    EXPECT_EQ(kStoreSetAside, Insert("Help", L"Hilfe", "de", "100", "4"));
+    Unload();
+    EXPECT_EQ("msgid \"broken", ReadFile("de.po"));
+    EXPECT_NE(std::string::npos, ReadFile("de.po.pending").find("Hilfe"));
+}
+
 // Not even the header is completed when no text changed: the file stays as its translator left it.
 TEST_F(KivStore, NothingChangedNothingWritten)
 {

@@ -229,6 +229,7 @@ int main(int argc, char** argv)
         kind.cycle();  // what is made once per process
         Pump();
         const kivtest::GuiObjects first = kivtest::CountGuiObjects();
+        const kivtest::GdiTypes firstTypes = kivtest::CountGdiTypes();
         const SIZE_T firstBytes = kivtest::PrivateBytes();
         kivtest::GuiObjects last = first;
         SIZE_T lastBytes = firstBytes;
@@ -263,6 +264,13 @@ int main(int argc, char** argv)
                     !flat              ? "GROWS"
                     : kind.keepsMemory ? "flat (keeps memory by design)"
                                        : "flat");
+        if (last.gdi != first.gdi)
+        {
+            const kivtest::GdiTypes lastTypes = kivtest::CountGdiTypes();
+            std::printf("%-24s GDI objects by type: %s; new ones: %s\n", kind.name,
+                        kivtest::GdiTypesGrowth(firstTypes, lastTypes).c_str(),
+                        kivtest::NewGdiObjects(firstTypes, lastTypes, 6).c_str());
+        }
         std::fflush(stdout);
     }
     std::fclose(csv);

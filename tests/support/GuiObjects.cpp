@@ -1,5 +1,7 @@
 #include "GuiObjects.h"
 
+#include <cstdio>
+
 namespace kivtest {
 
 namespace {
@@ -52,6 +54,90 @@ GuiObjects CountGuiObjects()
         objects.user += CountMenus();
     }
     return objects;
+}
+
+GdiTypes CountGdiTypes()
+{
+    GdiTypes types;
+    types.used.assign(0x10000, false);
+    for (UINT_PTR index = 1; index <= 0xFFFF; ++index)
+    {
+        const DWORD type = ::GetObjectType(reinterpret_cast<HGDIOBJ>(index));
+        if (type < 15)
+            ++types.count[type];
+        types.used[index] = type != 0;
+    }
+    return types;
+}
+
+std::string GdiTypesGrowth(const GdiTypes& before, const GdiTypes& after)
+{
+    static const char* const names[15] = {"unknown", "pen",    "brush",     "dc",          "metadc",
+                                          "palette", "font",   "bitmap",    "region",      "metafile",
+                                          "memdc",   "extpen", "enhmetadc", "enhmetafile", "colorspace"};
+    std::string text;
+    for (int type = 0; type < 15; ++type)
+    {
+        const int change = after.count[type] - before.count[type];
+        if (change == 0)
+            continue;
+        if (!text.empty())
+            text += ", ";
+        text += names[type];
+        text += change > 0 ? " +" : " ";
+        text += std::to_string(change);
+    }
+    return text;
+}
+
+std::string NewGdiObjects(const GdiTypes& before, const GdiTypes& after, int most)
+{
+    std::string text;
+    for (size_t index = 1; index < after.used.size() && most > 0; ++index)
+    {
+        if (!after.used[index] || (index < before.used.size() && before.used[index]))
+            continue;
+        const HGDIOBJ object = reinterpret_cast<HGDIOBJ>(index);
+        char line[200] = "";
+        switch (::GetObjectType(object))
+        {
+        case OBJ_FONT:
+        {
+            LOGFONTA font = {};
+            ::GetObjectA(object, sizeof(font), &font);
+            std::snprintf(line, sizeof(line), "font '%s' %ld", font.lfFaceName, font.lfHeight);
+            break;
+        }
+        case OBJ_BITMAP:
+        {
+            BITMAP bitmap = {};
+            ::GetObjectA(object, sizeof(bitmap), &bitmap);
+            std::snprintf(line, sizeof(line), "bitmap %ldx%ldx%d", bitmap.bmWidth, bitmap.bmHeight, bitmap.bmBitsPixel);
+            break;
+        }
+        case OBJ_BRUSH:
+        {
+            LOGBRUSH brush = {};
+            ::GetObjectA(object, sizeof(brush), &brush);
+            std::snprintf(line, sizeof(line), "brush style %u color %06lx", brush.lbStyle, brush.lbColor);
+            break;
+        }
+        case OBJ_REGION:
+        {
+            RECT box = {};
+            ::GetRgnBox(static_cast<HRGN>(object), &box);
+            std::snprintf(line, sizeof(line), "region %ld,%ld-%ld,%ld", box.left, box.top, box.right, box.bottom);
+            break;
+        }
+        default:
+            std::snprintf(line, sizeof(line), "type %lu", ::GetObjectType(object));
+        }
+        if (!text.empty())
+            text += "; ";
+        text += line;
+        --most;
+    }
+    return text;
 }
 
 SIZE_T PrivateBytes()

@@ -5,6 +5,9 @@
 
 #include <windows.h>
 
+#include <string>
+#include <vector>
+
 namespace kivtest {
 
 struct GuiObjects
@@ -14,6 +17,21 @@ struct GuiObjects
 };
 
 GuiObjects CountGuiObjects();
+
+// The process's GDI objects by GetObjectType's answer (OBJ_PEN = 1 to OBJ_COLORSPACE = 14), counted slot by slot.
+struct GdiTypes
+{
+    int count[15] = {};
+    std::vector<bool> used;  // by slot
+};
+
+GdiTypes CountGdiTypes();
+
+// "font +3, bitmap +1" for the types whose count differs, or "" when none does.
+std::string GdiTypesGrowth(const GdiTypes& before, const GdiTypes& after);
+
+// What the first few objects of after that before did not hold are: "font 'Tahoma' -11", "bitmap 16x16x32".
+std::string NewGdiObjects(const GdiTypes& before, const GdiTypes& after, int most);
 
 // The process's committed private memory, added up region by region over its address space
 // (Wine answers 0 for the process's private bytes).
