@@ -199,18 +199,7 @@ std::vector<PoRecord> PoCatalog::Records() const
 {
     std::vector<PoRecord> records;
     records.reserve(m_file.entries.size());
-    for (std::size_t i = 0; i < m_file.entries.size(); ++i)
-    {
-        const PoEntry& entry = m_file.entries[i];
-        std::size_t lineFeed = entry.context.find('\n');
-        if (!entry.hasContext || entry.hasPlural || lineFeed == std::string_view::npos)
-            continue;
-        // A context repeated by hand counts once, as Find sees it.
-        if (m_sharedContexts && Lookup(entry.context) != i)
-            continue;
-        records.push_back(
-            {entry.msgid, entry.Translation(), entry.context.substr(lineFeed + 1), entry.context.substr(0, lineFeed)});
-    }
+    VisitRecords([&records](const PoRecord& record) { records.push_back(record); });
     return records;
 }
 
@@ -226,6 +215,11 @@ bool PoCatalog::Load(std::string bytes, PoError* error)
             *error = {1, "the header names a charset other than UTF-8"};
         return false;
     }
+    // The index is made as large as its entries need at once, instead of growing while they are added.
+    std::size_t slots = 64;
+    while (slots < 2 * (loaded.m_file.entries.size() + 1))
+        slots *= 2;
+    loaded.m_slots.assign(slots, 0);
     std::vector<std::size_t> suspects;
     for (std::size_t i = 0; i < loaded.m_file.entries.size(); ++i)
     {

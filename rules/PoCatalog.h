@@ -81,6 +81,8 @@ public:
     // The records a host sees: entries with a section and a key, without plural forms; a fuzzy
     // entry's translation reads as none.
     std::vector<PoRecord> Records() const;
+    // visit(const PoRecord&) for each of Records(), in its order, without making the list.
+    template <typename Visit> void VisitRecords(Visit&& visit) const;
     bool IsChanged() const noexcept { return m_changed; }
 
     // Operations
@@ -120,5 +122,21 @@ private:
     bool m_sharedContexts = false;
     bool m_changed = false;
 };
+
+template <typename Visit> void PoCatalog::VisitRecords(Visit&& visit) const
+{
+    for (std::size_t i = 0; i < m_file.entries.size(); ++i)
+    {
+        const PoEntry& entry = m_file.entries[i];
+        std::size_t lineFeed = entry.context.find('\n');
+        if (!entry.hasContext || entry.hasPlural || lineFeed == std::string_view::npos)
+            continue;
+        // A context repeated by hand counts once, as Find sees it.
+        if (m_sharedContexts && Lookup(entry.context) != i)
+            continue;
+        visit(PoRecord{entry.msgid, entry.Translation(), entry.context.substr(lineFeed + 1),
+                       entry.context.substr(0, lineFeed)});
+    }
+}
 
 }  // namespace kiv::rules

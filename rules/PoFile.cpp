@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 
 namespace kiv::rules {
 
@@ -25,6 +26,28 @@ constexpr struct PlainRunEnds
     }
     constexpr bool operator[](unsigned char c) const { return ends[c]; }
 } kEndsPlainRun;
+
+// True when a word of eight bytes holds a zero byte.
+constexpr bool HasZeroByte(std::uint64_t v) noexcept
+{
+    return ((v - 0x0101010101010101ull) & ~v & 0x8080808080808080ull) != 0;
+}
+
+// Where the run of plain characters of a string that starts at pos ends: eight bytes at a time
+// while none of them ends it.
+std::size_t PlainRunEnd(std::string_view text, std::size_t pos) noexcept
+{
+    for (std::uint64_t word; pos + sizeof(word) <= text.size(); pos += sizeof(word))
+    {
+        std::memcpy(&word, text.data() + pos, sizeof(word));
+        if (HasZeroByte(word ^ 0x2222222222222222ull) || HasZeroByte(word ^ 0x5C5C5C5C5C5C5C5Cull) ||
+            HasZeroByte(word ^ 0x0A0A0A0A0A0A0A0Aull))
+            break;
+    }
+    while (pos < text.size() && !kEndsPlainRun[static_cast<unsigned char>(text[pos])])
+        ++pos;
+    return pos;
+}
 
 bool IsSpace(char c) noexcept
 {
@@ -150,10 +173,11 @@ bool PoReader::ReadFile()
             m_file->trailerBegin = entryBegin;
             return true;
         }
-        entry.textBegin = entryBegin;
+        entry.textBegin = static_cast<std::uint32_t>(entryBegin);
         if (!ReadEntry(entry))
             return false;
-        entry.textEnd = entryBegin = m_pos;
+        entryBegin = m_pos;
+        entry.textEnd = static_cast<std::uint32_t>(entryBegin);
         m_file->entries.push_back(std::move(entry));
     }
 }
@@ -269,10 +293,8 @@ bool PoReader::ReadString(bool& decoding, bool& escaped)
     ++m_pos;  // the opening quote
     for (;;)
     {
-        std::size_t start = m_pos, pos = m_pos;
-        while (pos < m_text.size() && !kEndsPlainRun[static_cast<unsigned char>(m_text[pos])])
-            ++pos;
-        m_pos = pos;
+        std::size_t start = m_pos;
+        m_pos = PlainRunEnd(m_text, m_pos);
         if (AtEnd() || m_text[m_pos] == '\n')
             return Fail("line end inside a string");
         if (m_text[m_pos] == '"' && !decoding)
@@ -339,12 +361,6 @@ bool PoReader::EndEntryLine()
     ++m_pos;
     ++m_line;
     return true;
-}
-
-// True when a word of eight bytes holds a zero byte.
-constexpr bool HasZeroByte(std::uint64_t v) noexcept
-{
-    return ((v - 0x0101010101010101ull) & ~v & 0x8080808080808080ull) != 0;
 }
 
 bool IsCleanText(std::string_view text) noexcept
@@ -503,6 +519,13 @@ bool PoFile::operator==(const PoFile& other) const
 bool ParsePo(std::string bytes, PoFile& file, PoError* error)
 {
     file = PoFile();
+    // Entries keep where they stood in 32 bits.
+    if (bytes.size() > std::numeric_limits<std::uint32_t>::max())
+    {
+        if (error)
+            *error = {1, "the file is 4 GB or larger"};
+        return false;
+    }
     std::string_view text = WithoutByteOrderMark(bytes);
     if (!IsCleanText(text))
     {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,24 +24,27 @@ struct PoError
 };
 
 // Reads a whole file. Besides the syntax it refuses what msgfmt refuses in any entry: text
-// that is not UTF-8, NUL bytes, and the context separator (U+0004) in a string.
+// that is not UTF-8, NUL bytes, and the context separator (U+0004) in a string; and a text of
+// 4 GB or more.
 // The file keeps the bytes it was read from.
 bool ParsePo(std::string bytes, PoFile& file, PoError* error = nullptr);
 
 struct PoEntry
 {
+    // A store holds a hundred thousand of these: the members are ordered so that none is padded.
     std::vector<std::string_view> comments;  // the '#' lines before the entry, without line ends
-    bool hasContext = false;
-    std::string_view context;  // msgctxt
+    std::string_view context;                // msgctxt
     std::string_view msgid;
-    bool hasPlural = false;
     std::string_view msgidPlural;
     std::vector<std::string_view> plurals;  // msgstr[0], msgstr[1], ... of an entry with a plural
     std::string_view msgstr;
-    // The entry's bytes in PoFile::Text(), with the blank lines and comments before it. An empty
-    // range marks an entry that is new or changed and is written from its fields.
-    std::size_t textBegin = 0;
-    std::size_t textEnd = 0;
+    // The entry's bytes in PoFile::Text() (which ParsePo keeps under 4 GB), with the blank lines
+    // and comments before it. An empty range marks an entry that is new or changed and is
+    // written from its fields.
+    std::uint32_t textBegin = 0;
+    std::uint32_t textEnd = 0;
+    bool hasContext = false;
+    bool hasPlural = false;
 
     bool IsHeader() const noexcept { return !hasContext && msgid.empty() && !hasPlural; }
     bool IsChanged() const noexcept { return textBegin == textEnd; }

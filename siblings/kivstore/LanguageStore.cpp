@@ -42,9 +42,7 @@ std::string EchoKey(std::string_view defaultText, std::string_view translation, 
     return joined;
 }
 
-// Control ids repeat from dialog to dialog: a record's key shares the string of the last equal key
-// that hashed to the same place.
-constexpr std::size_t kKeyShares = 1024;
+constexpr std::size_t kKeyShares = 1024;  // places of the keys a record's key may share
 
 // Of a section and key in UTF-16 (FNV-1a), for the index of a shrunk language's records.
 std::size_t RecordHash(const wchar_t* section, std::size_t sectionLength, const wchar_t* key,
@@ -89,30 +87,92 @@ struct LanguageStore::RecordTable
     std::vector<CStringW*> slots;
 };
 
-std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const std::vector<PoRecord>& records)
+namespace {
+
+// Which earlier record's string a record's key and section share: control ids repeat from
+// dialog to dialog (the last equal key that hashed to the same place), and the records of a
+// section mostly follow each other.
+class Shares
+{
+public:
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+    std::size_t Key(const PoRecord& record, std::size_t number)
+    {
+        Slot& slot = m_keys[std::hash<std::string_view>()(record.key) % kKeyShares];
+        std::size_t shared = slot.record != kNone && slot.key == record.key ? slot.record : kNone;
+        slot = {record.key, number};
+        return shared;
+    }
+    std::size_t Section(const PoRecord& record, std::size_t number)
+    {
+        std::size_t shared = number > 0 && record.section == m_section ? number - 1 : kNone;
+        m_section = record.section;
+        return shared;
+    }
+
+private:
+    struct Slot
+    {
+        std::string_view key;
+        std::size_t record = kNone;
+    };
+    std::vector<Slot> m_keys = std::vector<Slot>(kKeyShares);
+    std::string_view m_section;
+};
+
+}  // namespace
+
+std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const PoCatalog* catalog,
+                                                                     std::vector<const wchar_t*>* texts)
 {
     auto table = std::make_unique<RecordTable>();
-    table->strings.reset(new CStringW[records.size() * kRecordFields]);
-    table->slots.assign(records.size() + 1, nullptr);
-    std::vector<std::size_t> keyShares(kKeyShares, records.size());
-    for (std::size_t i = 0; i < records.size(); ++i)
+    // The strings' room is counted first, so that they take one piece of memory of that size.
+    std::size_t records = 0, bytes = 0;
+    if (catalog)
     {
-        CStringW* record = &table->strings[i * kRecordFields];
-        table->block.Assign(record[kRecordDefaultText], records[i].defaultText);
-        table->block.Assign(record[kRecordTranslation], records[i].translation);
-        std::size_t& share = keyShares[std::hash<std::string_view>()(records[i].key) % kKeyShares];
-        if (share < i && records[share].key == records[i].key)
-            record[kRecordKey] = table->slots[share][kRecordKey];
-        else
-            table->block.Assign(record[kRecordKey], records[i].key);
-        share = i;
-        // Records of one section mostly follow each other and share its string.
-        if (i > 0 && records[i].section == records[i - 1].section)
-            record[kRecordSection] = table->slots[i - 1][kRecordSection];
-        else
-            table->block.Assign(record[kRecordSection], records[i].section);
-        table->slots[i] = record;
+        Shares shares;
+        catalog->VisitRecords([&](const PoRecord& record) {
+            bytes += StringBlock::MostBytes(record.defaultText) + StringBlock::MostBytes(record.translation);
+            if (shares.Key(record, records) == Shares::kNone)
+                bytes += StringBlock::MostBytes(record.key);
+            if (shares.Section(record, records) == Shares::kNone)
+                bytes += StringBlock::MostBytes(record.section);
+            ++records;
+        });
     }
+    table->strings.reset(new CStringW[records * kRecordFields]);
+    table->slots.assign(records + 1, nullptr);
+    table->block.Reserve(bytes);
+    if (texts)
+        texts->assign(3 * records, nullptr);
+    if (!catalog)
+        return table;
+    Shares shares;
+    std::size_t i = 0;
+    catalog->VisitRecords([&](const PoRecord& record) {
+        CStringW* fields = &table->strings[i * kRecordFields];
+        table->block.Assign(fields[kRecordDefaultText], record.defaultText);
+        table->block.Assign(fields[kRecordTranslation], record.translation);
+        std::size_t shared = shares.Key(record, i);
+        if (shared != Shares::kNone)
+            StringBlock::Share(fields[kRecordKey], table->slots[shared][kRecordKey]);
+        else
+            table->block.Assign(fields[kRecordKey], record.key);
+        shared = shares.Section(record, i);
+        if (shared != Shares::kNone)
+            StringBlock::Share(fields[kRecordSection], table->slots[shared][kRecordSection]);
+        else
+            table->block.Assign(fields[kRecordSection], record.section);
+        table->slots[i] = fields;
+        if (texts)
+        {
+            (*texts)[3 * i] = fields[kRecordSection].GetString();
+            (*texts)[3 * i + 1] = fields[kRecordKey].GetString();
+            (*texts)[3 * i + 2] = fields[kRecordTranslation].GetString();
+        }
+        ++i;
+    });
     return table;
 }
 
@@ -189,10 +249,16 @@ CStringW** LanguageStore::Strings(const char* id)
         return nullptr;
     if (!language->tableCurrent)
     {
-        language->tables.push_back(MakeTable(Whole(*language) ? language->catalog.Records() : std::vector<PoRecord>()));
+        const bool whole = Whole(*language);
+        const bool shrink = whole && language->changes.empty() && language->mergedSideFiles.empty();
+        language->tables.push_back(
+            MakeTable(whole ? &language->catalog : nullptr, shrink ? &language->recordTexts : nullptr));
         language->tableCurrent = true;
-        if (language->readable && language->changes.empty() && language->mergedSideFiles.empty())
-            Shrink(*language);
+        if (shrink)
+        {
+            language->catalog = PoCatalog();
+            language->shrunk = true;
+        }
     }
     return language->tables.back()->slots.data();
 }
@@ -323,20 +389,6 @@ void LanguageStore::Load(Language& language)
         }
         language.mergedSideFiles.emplace_back(std::move(sidePath), std::move(side));
     }
-}
-
-void LanguageStore::Shrink(Language& language)
-{
-    const std::vector<CStringW*>& slots = language.tables.back()->slots;
-    language.recordTexts.resize(3 * (slots.size() - 1));
-    for (std::size_t i = 0; i + 1 < slots.size(); ++i)
-    {
-        language.recordTexts[3 * i] = slots[i][kRecordSection].GetString();
-        language.recordTexts[3 * i + 1] = slots[i][kRecordKey].GetString();
-        language.recordTexts[3 * i + 2] = slots[i][kRecordTranslation].GetString();
-    }
-    language.catalog = PoCatalog();
-    language.shrunk = true;
 }
 
 bool LanguageStore::Whole(Language& language)

@@ -38,12 +38,13 @@ private:
     struct RecordTable;
     struct Language;
 
-    static std::unique_ptr<RecordTable> MakeTable(const std::vector<kiv::rules::PoRecord>& records);
+    // The table of a catalog's records (none for null); texts, when given, gets the section, key
+    // and translation of each record.
+    static std::unique_ptr<RecordTable> MakeTable(const kiv::rules::PoCatalog* catalog,
+                                                  std::vector<const wchar_t*>* texts);
     Language* Find(const char* id);
     Language* Loaded(const char* id);
     void Load(Language& language);
-    // Lets the catalog go once the language's table is handed out and nothing changed.
-    static void Shrink(Language& language);
     // Reads a language that let its catalog go again, before it is changed; false when the
     // language cannot be read.
     bool Whole(Language& language);

@@ -40,27 +40,54 @@ bool StringBlock::IsUnused() const noexcept
     return true;
 }
 
+std::size_t StringBlock::MostBytes(std::string_view utf8) noexcept
+{
+    return utf8.empty() ? 0 : StringBytes((int)utf8.size());
+}
+
+void StringBlock::Reserve(std::size_t bytes)
+{
+    if (bytes == 0 || (!m_chunks.empty() && m_chunks.back().size - m_chunks.back().used >= bytes))
+        return;
+    Chunk chunk;
+    chunk.size = bytes;
+    chunk.bytes.reset(new char[chunk.size]);
+    m_chunks.push_back(std::move(chunk));
+}
+
 void StringBlock::Assign(CStringW& target, std::string_view utf8)
 {
-    int length = (int)kiv::rules::Utf16Length(utf8);
-    if (length == 0)
-    {
-        target.Empty();
+    if (utf8.empty())
         return;
-    }
-    CStringData* header = Allocate(length);
+    // UTF-16 takes no more units than UTF-8 takes bytes: room for that many, and what the
+    // decoded text leaves over stays in the chunk for the next string.
+    Chunk& chunk = Room(MostBytes(utf8));
+    CStringData* header = reinterpret_cast<CStringData*>(chunk.bytes.get() + chunk.used);
     wchar_t* characters = static_cast<wchar_t*>(header->data());
-    kiv::rules::DecodeUtf8(utf8, characters);
+    int length = (int)(kiv::rules::DecodeUtf8(utf8, characters) - characters);
     characters[length] = 0;
+    header->nRefs = kBlockReference + 1;  // and the CStringW about to refer to it
+    header->nDataLength = length;
+    header->nAllocLength = length;
+    chunk.used += StringBytes(length);
     // A CStringW is nothing but the pointer to the characters behind its header.
     static_assert(sizeof(CStringW) == sizeof(wchar_t*), "CStringW holds one pointer");
-    target.Empty();
     std::memcpy(static_cast<void*>(&target), &characters, sizeof(characters));
 }
 
-CStringData* StringBlock::Allocate(int characters)
+void StringBlock::Share(CStringW& target, const CStringW& source) noexcept
 {
-    std::size_t bytes = StringBytes(characters);
+    const wchar_t* characters = source.GetString();
+    CStringData* header = reinterpret_cast<CStringData*>(const_cast<wchar_t*>(characters)) - 1;
+    if (header->IsNil())
+        return;
+    // No other thread holds the string yet: a plain count is enough, where a copy would lock.
+    ++header->nRefs;
+    std::memcpy(static_cast<void*>(&target), &characters, sizeof(characters));
+}
+
+StringBlock::Chunk& StringBlock::Room(std::size_t bytes)
+{
     if (m_chunks.empty() || m_chunks.back().size - m_chunks.back().used < bytes)
     {
         Chunk chunk;
@@ -68,11 +95,5 @@ CStringData* StringBlock::Allocate(int characters)
         chunk.bytes.reset(new char[chunk.size]);
         m_chunks.push_back(std::move(chunk));
     }
-    Chunk& chunk = m_chunks.back();
-    CStringData* header = reinterpret_cast<CStringData*>(chunk.bytes.get() + chunk.used);
-    chunk.used += bytes;
-    header->nRefs = kBlockReference + 1;  // and the CStringW about to refer to it
-    header->nDataLength = characters;
-    header->nAllocLength = characters;
-    return header;
+    return m_chunks.back();
 }

@@ -26,9 +26,17 @@ public:
     // True when only the block's own reference is left on every string.
     bool IsUnused() const noexcept;
 
+    // The most bytes Assign takes for a UTF-8 text.
+    static std::size_t MostBytes(std::string_view utf8) noexcept;
+
     // Operations
+    // Makes room for strings of that many bytes in one piece.
+    void Reserve(std::size_t bytes);
     // Makes target, an empty string, refer to a new string of the block holding the UTF-8 text.
     void Assign(CStringW& target, std::string_view utf8);
+    // Makes target, an empty string, refer to source, a string that Assign made and that no
+    // other thread can see yet.
+    static void Share(CStringW& target, const CStringW& source) noexcept;
 
 private:
     struct Chunk
@@ -37,7 +45,7 @@ private:
         std::size_t used = 0;
         std::size_t size = 0;
     };
-    CStringData* Allocate(int characters);
+    Chunk& Room(std::size_t bytes);
 
     std::vector<Chunk> m_chunks;
 };

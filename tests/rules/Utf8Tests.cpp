@@ -64,6 +64,28 @@ TEST(DecodeUtf8, GivesBackTheUnitsThatWereEncoded)
     EXPECT_EQ(std::u16string(units, 10), std::u16string(decoded, 10));
 }
 
+// ASCII is read eight bytes at a time: runs of every length, cut by other characters at every place.
+TEST(DecodeUtf8, AsciiRunsOfEveryLengthBesideOtherCharactersAndTheEndItAnswers)
+{
+    for (std::size_t before = 0; before < 20; ++before)
+        for (std::size_t after = 0; after < 20; ++after)
+        {
+            std::u16string units;
+            for (std::size_t i = 0; i < before; ++i)
+                units += static_cast<char16_t>(u'a' + i);
+            units += u"\u00DC\U0001F600";
+            for (std::size_t i = 0; i < after; ++i)
+                units += static_cast<char16_t>(u'0' + i % 10);
+            std::string utf8;
+            ASSERT_TRUE(AppendUtf8(units.data(), units.size(), utf8));
+            std::u16string decoded(utf8.size() + 1, u'#');
+            char16_t* end = DecodeUtf8(utf8, decoded.data());
+            ASSERT_EQ(units.size(), static_cast<std::size_t>(end - decoded.data())) << before << " " << after;
+            EXPECT_EQ(units, decoded.substr(0, units.size()));
+            EXPECT_EQ(u'#', decoded[units.size()]);  // nothing written past the end
+        }
+}
+
 TEST(FirstCharacter, TakesOneWholeCharacterOfEachLength)
 {
     using kiv::rules::FirstCharacter;
