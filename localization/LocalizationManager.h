@@ -12,10 +12,15 @@ struct IndexSlot;
 }  // namespace kiv::localization
 
 // One cached text: the program's own text and its translation (empty when none is known).
+// Entries are made by the hundred thousand and each text asked for again without translation
+// makes one more, so they come from blocks of their own size rather than from the heap.
 struct TranslationEntry
 {
     CString defaultText;
     CStringW translatedText;
+
+    static AFX_EXT_API void* operator new(size_t size);
+    static AFX_EXT_API void operator delete(void* entry, size_t size) noexcept;
 };
 
 class AFX_EXT_CLASS LocalizationManager

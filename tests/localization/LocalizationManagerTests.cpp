@@ -4,6 +4,11 @@
 
 #include "LocalizationKeys.h"
 
+#include <cstdint>
+#include <cstdlib>
+#include <set>
+#include <vector>
+
 namespace localization_tests {
 
 using kiv::localization::KeyText;
@@ -285,6 +290,80 @@ TEST_F(LocalizationManager, DisposeWithoutAnInstanceDoesNothing)
     Manager::Dispose();
     EXPECT_EQ(nullptr, Manager::m_SingletonInstance);
     EXPECT_EQ(loaded, LoadedLibraries());
+}
+
+// Entries come from blocks of their own: a freed one is taken again, many at once are all
+// distinct and usable, a class derived from the entry still gets memory of its own size, and
+// two threads making entries at once never get the same one.
+TEST(TranslationEntry, EntriesComeFromBlocksAndAFreedOneIsTakenAgain)
+{
+    auto* first = new TranslationEntry;
+    first->defaultText = "OK";
+    first->translatedText = L"In Ordnung";
+    const std::uintptr_t freed = reinterpret_cast<std::uintptr_t>(first);
+    delete first;
+    auto* again = new TranslationEntry;
+    EXPECT_EQ(freed, reinterpret_cast<std::uintptr_t>(again));
+    EXPECT_STREQ("", again->defaultText);
+    EXPECT_STREQ(L"", again->translatedText);
+    delete again;
+
+    std::vector<TranslationEntry*> many;
+    for (int i = 0; i < 10000; ++i)
+    {
+        many.push_back(new TranslationEntry);
+        many.back()->defaultText.Format("%d", i);
+    }
+    std::set<TranslationEntry*> distinct(many.begin(), many.end());
+    EXPECT_EQ(many.size(), distinct.size());
+    for (int i = 0; i < 10000; ++i)
+        EXPECT_EQ(i, std::atoi(many[i]->defaultText)) << i;
+    for (TranslationEntry* entry : many)
+        delete entry;
+
+    struct Larger : TranslationEntry
+    {
+        char more[64] = "beyond the entry";
+    };
+    auto* larger = new Larger;
+    EXPECT_STREQ("beyond the entry", larger->more);
+    delete larger;
+}
+
+TEST(TranslationEntry, TwoThreadsMakingEntriesAtOnceGetDistinctOnes)
+{
+    constexpr int kEach = 20000;
+    struct Work
+    {
+        std::vector<TranslationEntry*> made;
+    } works[2];
+    auto run = [](LPVOID parameter) -> DWORD {
+        auto* work = static_cast<Work*>(parameter);
+        for (int i = 0; i < kEach; ++i)
+        {
+            work->made.push_back(new TranslationEntry);
+            if (i % 3 == 0)
+            {
+                delete work->made.back();
+                work->made.pop_back();
+            }
+        }
+        return 0;
+    };
+    HANDLE threads[2];
+    for (int i = 0; i < 2; ++i)
+        threads[i] = ::CreateThread(nullptr, 0, run, &works[i], 0, nullptr);
+    ::WaitForMultipleObjects(2, threads, TRUE, INFINITE);
+    std::set<TranslationEntry*> distinct;
+    for (Work& work : works)
+    {
+        distinct.insert(work.made.begin(), work.made.end());
+        ::CloseHandle(threads[&work - works]);
+    }
+    EXPECT_EQ(works[0].made.size() + works[1].made.size(), distinct.size());
+    for (Work& work : works)
+        for (TranslationEntry* entry : work.made)
+            delete entry;
 }
 
 }  // namespace localization_tests
