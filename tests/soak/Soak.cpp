@@ -1,7 +1,7 @@
 // The soak: every dialog class and control of the library made, shown and destroyed again and
 // again in translation mode, with the process's GDI and USER objects and private bytes sampled
 // every 500 cycles.
-//   dialogs_soak <output folder> [cycles per kind, default 10000] [kind]
+//   dialogs_soak <output folder> [cycles per kind, default 10000] [kind[,kind...]]
 // Writes <output folder>/soak.csv (kind, cycle, gdi, user, private KiB, and its growth since the
 // first cycle) and prints one line per kind: the counts after its first cycle and at the end. Exit code 0 when every
 // kind ends with the GDI and USER counts it had after its first cycle (two later objects allowed, see below) and, over
@@ -224,7 +224,7 @@ int main(int argc, char** argv)
     int status = 0;
     for (const Kind& kind : Kinds())
     {
-        if (!only.empty() && only != kind.name)
+        if (!only.empty() && ("," + only + ",").find("," + std::string(kind.name) + ",") == std::string::npos)
             continue;
         kind.cycle();  // what is made once per process
         Pump();
