@@ -72,11 +72,11 @@ GdiTypes CountGdiTypes()
 
 std::string GdiTypesGrowth(const GdiTypes& before, const GdiTypes& after)
 {
-    static const char* const names[15] = {"unknown", "pen",    "brush",     "dc",          "metadc",
+    static const char* const names[15] = {"none",    "pen",    "brush",     "dc",          "metadc",
                                           "palette", "font",   "bitmap",    "region",      "metafile",
                                           "memdc",   "extpen", "enhmetadc", "enhmetafile", "colorspace"};
     std::string text;
-    for (int type = 0; type < 15; ++type)
+    for (int type = 1; type < 15; ++type)  // 0 is an empty slot
     {
         const int change = after.count[type] - before.count[type];
         if (change == 0)
