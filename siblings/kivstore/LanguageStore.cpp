@@ -44,51 +44,6 @@ std::string EchoKey(std::string_view defaultText, std::string_view translation, 
 
 constexpr std::size_t kKeyShares = 1024;  // places of the keys a record's key may share
 
-// Of a section and key in UTF-16 (FNV-1a), for the index of a shrunk language's records.
-std::size_t RecordHash(const wchar_t* section, std::size_t sectionLength, const wchar_t* key,
-                       std::size_t keyLength) noexcept
-{
-    std::uint32_t hash = 2166136261u;
-    auto add = [&hash](const wchar_t* units, std::size_t length) {
-        for (std::size_t i = 0; i < length; ++i)
-            hash = (hash ^ units[i]) * 16777619u;
-    };
-    add(section, sectionLength);
-    hash = (hash ^ L'\n') * 16777619u;
-    add(key, keyLength);
-    return hash;
-}
-
-// The length of a table's string, which its header in front of the characters holds.
-int HeldLength(const wchar_t* characters) noexcept
-{
-    return (reinterpret_cast<const CStringData*>(characters) - 1)->nDataLength;
-}
-
-bool SameText(const wchar_t* held, const std::wstring& text) noexcept
-{
-    return (std::size_t)HeldLength(held) == text.size() && std::wmemcmp(held, text.data(), text.size()) == 0;
-}
-
-std::string EchoOf(const PoRecord& record)
-{
-    return EchoKey(FirstUnitEcho(record.defaultText, true), FirstUnitEcho(record.translation, false),
-                   FirstUnitEcho(record.key, true), FirstUnitEcho(record.section, true));
-}
-
-}  // namespace
-
-// One call's table of records: four strings per record, and the slots pointing at them. The
-// strings go before their block, which then sees whether a copy outlives them.
-struct LanguageStore::RecordTable
-{
-    StringBlock block;
-    std::unique_ptr<CStringW[]> strings;
-    std::vector<CStringW*> slots;
-};
-
-namespace {
-
 // Which earlier record's string a record's key and section share: control ids repeat from
 // dialog to dialog (the last equal key that hashed to the same place), and the records of a
 // section mostly follow each other.
@@ -121,7 +76,48 @@ private:
     std::string_view m_section;
 };
 
+// Of a section and key in UTF-16 (FNV-1a), for the index of a language that let its catalogue go.
+std::size_t RecordHash(const wchar_t* section, std::size_t sectionLength, const wchar_t* key,
+                       std::size_t keyLength) noexcept
+{
+    std::uint32_t hash = 2166136261u;
+    auto add = [&hash](const wchar_t* units, std::size_t length) {
+        for (std::size_t i = 0; i < length; ++i)
+            hash = (hash ^ units[i]) * 16777619u;
+    };
+    add(section, sectionLength);
+    hash = (hash ^ L'\n') * 16777619u;
+    add(key, keyLength);
+    return hash;
+}
+
+// The length of a table's string, which its header in front of the characters holds.
+int HeldLength(const wchar_t* characters) noexcept
+{
+    return (reinterpret_cast<const CStringData*>(characters) - 1)->nDataLength;
+}
+
+bool SameText(const wchar_t* held, const CStringW& text) noexcept
+{
+    return HeldLength(held) == text.GetLength() && std::wmemcmp(held, text, text.GetLength()) == 0;
+}
+
+std::string EchoOf(const PoRecord& record)
+{
+    return EchoKey(FirstUnitEcho(record.defaultText, true), FirstUnitEcho(record.translation, false),
+                   FirstUnitEcho(record.key, true), FirstUnitEcho(record.section, true));
+}
+
 }  // namespace
+
+// One call's table of records: four strings per record, and the slots pointing at them. The
+// strings go before their block, which then sees whether a copy outlives them.
+struct LanguageStore::RecordTable
+{
+    StringBlock block;
+    std::unique_ptr<CStringW[]> strings;
+    std::vector<CStringW*> slots;
+};
 
 std::unique_ptr<LanguageStore::RecordTable> LanguageStore::MakeTable(const PoCatalog* catalog,
                                                                      std::vector<const wchar_t*>* texts)
@@ -428,12 +424,11 @@ const wchar_t* LanguageStore::FindRecord(Language& language, std::string_view co
     std::size_t split = context.find('\n');
     if (split == std::string_view::npos || !kiv::rules::IsValidUtf8(context))
         return nullptr;
-    std::wstring section(kiv::rules::Utf16Length(context.substr(0, split)), L'\0');
-    std::wstring key(kiv::rules::Utf16Length(context.substr(split + 1)), L'\0');
-    kiv::rules::DecodeUtf8(context.substr(0, split), section.data());
-    kiv::rules::DecodeUtf8(context.substr(split + 1), key.data());
+    CStringW section, key;
+    AssignUtf8(section, context.substr(0, split));
+    AssignUtf8(key, context.substr(split + 1));
     const std::size_t mask = language.recordIndex.size() - 1;
-    for (std::size_t slot = RecordHash(section.data(), section.size(), key.data(), key.size()) & mask;;
+    for (std::size_t slot = RecordHash(section, section.GetLength(), key, key.GetLength()) & mask;;
          slot = (slot + 1) & mask)
     {
         std::uint32_t record = language.recordIndex[slot];
@@ -458,7 +453,7 @@ std::vector<std::string> LanguageStore::NamesOf(Language& language)
 
 void LanguageStore::FlushLanguage(Language& language)
 {
-    if (!Whole(language))
+    if (!language.readable)
     {
         SetAside(language);
         return;

@@ -90,6 +90,18 @@ std::string GdiTypesGrowth(const GdiTypes& before, const GdiTypes& after)
     return text;
 }
 
+namespace {
+
+// What GetObject tells of an object, in the structure of its type.
+template <typename Info> Info Described(HGDIOBJ object)
+{
+    Info info = {};
+    ::GetObjectA(object, sizeof(info), &info);
+    return info;
+}
+
+}  // namespace
+
 std::string NewGdiObjects(const GdiTypes& before, const GdiTypes& after, int most)
 {
     std::string text;
@@ -103,22 +115,19 @@ std::string NewGdiObjects(const GdiTypes& before, const GdiTypes& after, int mos
         {
         case OBJ_FONT:
         {
-            LOGFONTA font = {};
-            ::GetObjectA(object, sizeof(font), &font);
+            const auto font = Described<LOGFONTA>(object);
             std::snprintf(line, sizeof(line), "font '%s' %ld", font.lfFaceName, font.lfHeight);
             break;
         }
         case OBJ_BITMAP:
         {
-            BITMAP bitmap = {};
-            ::GetObjectA(object, sizeof(bitmap), &bitmap);
+            const auto bitmap = Described<BITMAP>(object);
             std::snprintf(line, sizeof(line), "bitmap %ldx%ldx%d", bitmap.bmWidth, bitmap.bmHeight, bitmap.bmBitsPixel);
             break;
         }
         case OBJ_BRUSH:
         {
-            LOGBRUSH brush = {};
-            ::GetObjectA(object, sizeof(brush), &brush);
+            const auto brush = Described<LOGBRUSH>(object);
             std::snprintf(line, sizeof(line), "brush style %u color %06lx", brush.lbStyle, brush.lbColor);
             break;
         }
